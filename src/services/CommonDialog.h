@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+
+#include "services/Units.h"
+
+namespace tagsmith {
+
+class Form;
+
+/// `Flags` values.
+constexpr int kStartFromColor = 1;
+constexpr int kScreenAndPrinterFonts = 3;
+
+/// The desktop's file, colour and font dialogs, with the properties that go in and come out. Each
+/// Show call gives false on Cancel, after which the properties stay as they were; with
+/// `cancelError` a Cancel throws `Error` (kCancelled) instead.
+class CommonDialog {
+ public:
+  /// `owner` is the form that asks.
+  explicit CommonDialog(Form& owner) : owner_(owner) {}
+
+  std::string fileName;  ///< Full path.
+  std::string filter;    ///< Caption and pattern pairs, all joined by bars.
+  std::string initDir;
+  std::string dialogTitle;
+  std::string defaultExt;
+  int flags = 0;
+  bool cancelError = false;
+  Colour color = kBlack;
+  FontSpec font;
+
+  bool ShowOpen();
+  bool ShowSave();
+  bool ShowColor();
+  bool ShowFont();
+
+ private:
+  bool Cancelled() const;
+
+  Form& owner_;
+};
+
+}  // namespace tagsmith

@@ -1,0 +1,69 @@
+#include "services/MSFlexGrid.h"
+
+#include <algorithm>
+
+#include "services/Form.h"
+
+namespace tagsmith {
+
+MSFlexGrid::MSFlexGrid(Form& form, std::string name, int rows, int columns)
+    : Control(form, ControlKind::kMSFlexGrid, std::move(name)),
+      rows_(rows),
+      columns_(columns),
+      cells_(static_cast<std::size_t>(rows * columns)) {}
+
+std::size_t MSFlexGrid::CellIndex(int row, int column) const {
+  return static_cast<std::size_t>(row * columns_ + column);
+}
+
+void MSFlexGrid::Resize(int rows, int columns) {
+  rows = std::max(rows, 1);
+  columns = std::max(columns, 1);
+  std::vector<std::string> cells(static_cast<std::size_t>(rows * columns));
+  for (int row = 0; row < std::min(rows, rows_); ++row) {
+    for (int column = 0; column < std::min(columns, columns_); ++column) {
+      cells[static_cast<std::size_t>(row * columns + column)] =
+          std::move(cells_[CellIndex(row, column)]);
+    }
+  }
+  rows_ = rows;
+  columns_ = columns;
+  cells_ = std::move(cells);
+  row_ = std::min(row_, rows_ - 1);
+  column_ = std::min(column_, columns_ - 1);
+  Tell(Property::kLimits);
+}
+
+void MSFlexGrid::SetRows(int rows) { Resize(rows, columns_); }
+void MSFlexGrid::SetCols(int columns) { Resize(rows_, columns); }
+
+void MSFlexGrid::SetRow(int row) {
+  if (row < 0 || row >= rows_) return;
+  row_ = row;
+  Tell(Property::kSelection);
+}
+
+void MSFlexGrid::SetCol(int column) {
+  if (column < 0 || column >= columns_) return;
+  column_ = column;
+  Tell(Property::kSelection);
+}
+
+const std::string& MSFlexGrid::TextAt(int row, int column) const {
+  return cells_[CellIndex(row, column)];
+}
+
+void MSFlexGrid::SetText(std::string_view text) {
+  cells_[CellIndex(row_, column_)] = text;
+  Tell(Property::kText);
+}
+
+void MSFlexGrid::Select(int row, int column) {
+  if (!TakesInput() || row < 0 || row >= rows_ || column < 0 || column >= columns_) return;
+  row_ = row;
+  column_ = column;
+  Tell(Property::kSelection);
+  Raise(onSelChange);
+}
+
+}  // namespace tagsmith
