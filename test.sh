@@ -1,0 +1,15 @@
+#!/bin/sh
+# Sets up what is missing, builds Tagsmith and passes all tests.
+set -eu
+root=$(cd "$(dirname "$0")" && pwd)
+. "$root/tools/setup.sh"
+
+# Real pages for the load-and-save test come from documentation packages; the desktop test works
+# the program in a real window.
+TEST_PACKAGES="xauth xvfb xdotool openbox imagemagick debian-faq debian-policy developers-reference
+    libjs-jquery libjs-bootstrap php-pear"
+
+install_packages $BUILD_PACKAGES $TEST_PACKAGES
+build release
+cd "$root"
+ctest --preset release
