@@ -124,7 +124,11 @@ void DriveListBox::Select(int index) {
 
 DirListBox::DirListBox(Form& form, std::string name)
     : Control(form, ControlKind::kDirListBox, std::move(name)) {
-  Show(FilesOf(*this).CurrentDirectory());
+  path_ = FilesOf(*this).CurrentDirectory();
+  try {
+    Show(path_);
+  } catch (const Error&) {  // A folder that cannot be read shows as empty.
+  }
 }
 
 void DirListBox::Show(std::string path) {
@@ -203,7 +207,7 @@ void DirListBox::Open(int index) {
 FileListBox::FileListBox(Form& form, std::string name, bool multiSelect)
     : Control(form, ControlKind::kFileListBox, std::move(name)), multiSelect_(multiSelect) {
   path_ = FilesOf(*this).CurrentDirectory();
-  ReadNames();
+  Refresh();
 }
 
 void FileListBox::ReadNames() {

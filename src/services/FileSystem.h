@@ -34,7 +34,7 @@ class FileSystem {
   /// The drives that can be opened now. "c" is always there and stands first.
   virtual std::vector<Drive> Drives() const = 0;
 
-  /// The full path of the process's current directory.
+  /// The full path of the process's current directory; the first drive's root when that has gone.
   virtual std::string CurrentDirectory() const = 0;
 
   /// The full path, in the spelling that is on the disk and without a backslash behind it (but for

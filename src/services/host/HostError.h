@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+
+#include "services/Error.h"
+
+namespace tagsmith {
+
+/// The error of a system call that left `errorNumber` in errno, with the platform's text for it.
+Error SystemError(int errorNumber);
+
+/// The same for a call that named the file at `hostPath`: kPathNotFound where not only the file is
+/// missing but also its folder.
+Error FileError(int errorNumber, const std::string& hostPath);
+
+}  // namespace tagsmith

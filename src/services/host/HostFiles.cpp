@@ -1,0 +1,137 @@
+#include "services/host/HostFiles.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <limits>
+#include <system_error>
+#include <utility>
+
+#include "services/host/DirectoryReader.h"
+#include "services/host/FileReader.h"
+#include "services/host/FileStatus.h"
+#include "services/host/HostError.h"
+#include "services/host/PathLookup.h"
+#include "services/host/RenameFile.h"
+#include "services/host/SafeWriter.h"
+
+namespace tagsmith {
+namespace {
+
+bool IsOnRootDrive(std::string_view path) { return path.starts_with('c') || path.starts_with('C'); }
+
+// What `path` means when the directory `base` (a full path) is open.
+std::string TakenIn(std::string_view base, std::string_view path) {
+  if (DriveMap::IsFullPath(path)) return std::string(path);
+  const bool fromRoot = path.starts_with('\\') || path.starts_with('/');
+  std::string full(fromRoot ? base.substr(0, 2) : base);
+  if (!fromRoot) full += '\\';
+  return full.append(path);
+}
+
+// Whatever is wrong with a directory that is to be opened, it is the path that is no good.
+void RequireDirectory(const std::string& hostPath) {
+  try {
+    DirectoryReader(hostPath).Next();
+  } catch (const Error& error) {
+    if (error.Code() == ErrorCode::kDeviceUnavailable) throw;
+    throw Error(ErrorCode::kPathNotFound, error.what());
+  }
+}
+
+std::string WithoutSlashBehind(std::string hostPath) {
+  while (hostPath.size() > 1 && hostPath.ends_with('/')) hostPath.pop_back();
+  return hostPath;
+}
+
+}  // namespace
+
+HostFiles::HostFiles(Mounts mounts) : mounts_(std::move(mounts)) {}
+
+std::vector<Drive> HostFiles::Drives() const {
+  drives_.Update(mounts_());
+  std::vector<Drive> drives = drives_.Drives();
+  std::erase_if(drives, [this](const Drive& drive) {
+    const std::string root = drives_.ToHostPath(drive.root).value_or(std::string());
+    return drive.letter != 'c' && ::eaccess(root.c_str(), R_OK | X_OK) != 0;
+  });
+  return drives;
+}
+
+std::string HostFiles::CurrentDirectory() const {
+  std::error_code error;
+  const std::string directory = std::filesystem::current_path(error);
+  return DriveMap::ToSystemPath(error ? "/" : directory);
+}
+
+std::string HostFiles::HostPathAsGiven(std::string_view path) const {
+  if (path.empty() || path.find('\0') != std::string_view::npos) throw SystemError(ENOENT);
+  if (!DriveMap::IsFullPath(path)) return HostPathAsGiven(TakenIn(CurrentDirectory(), path));
+  if (!IsOnRootDrive(path)) drives_.Update(mounts_());
+  std::optional<std::string> hostPath = drives_.ToHostPath(path);
+  if (!hostPath) throw SystemError(ENODEV);
+  return *std::move(hostPath);
+}
+
+std::string HostFiles::ToHostPath(std::string_view path) const {
+  return SpellAsOnDisk(HostPathAsGiven(path));
+}
+
+std::string HostFiles::ResolveDirectory(std::string_view path, std::string_view base) const {
+  const std::string hostPath = WithoutSlashBehind(ToHostPath(TakenIn(base, path)));
+  RequireDirectory(hostPath);
+  return DriveMap::ToSystemPath(hostPath);
+}
+
+std::vector<std::string> HostFiles::ListNames(std::string_view directory, bool directories) const {
+  std::vector<std::string> names;
+  DirectoryReader reader(ToHostPath(directory));
+  while (const dirent* entry = reader.Next()) {
+    if (entry->d_name[0] != '.' && reader.IsDirectory(*entry) == directories) {
+      names.push_back(DriveMap::ToSystemPath(entry->d_name));
+    }
+  }
+  return names;
+}
+
+std::vector<std::string> HostFiles::DirectoryNames(std::string_view directory) const {
+  return ListNames(directory, true);
+}
+
+std::vector<std::string> HostFiles::FileNames(std::string_view directory) const {
+  return ListNames(directory, false);
+}
+
+bool HostFiles::FileExists(std::string_view path) const noexcept {
+  try {
+    const auto status = FindStatus(ToHostPath(path));
+    return status && !S_ISDIR(status->st_mode);
+  } catch (const std::exception&) {
+    return false;
+  }
+}
+
+std::optional<std::string> HostFiles::ReadFile(std::string_view path, std::size_t limit) const {
+  return ReadRegularFile(ToHostPath(path), limit);
+}
+
+void HostFiles::WriteFile(std::string_view path, std::string_view bytes, Durability durability) {
+  WriteSafely(ToHostPath(path), bytes, durability);
+}
+
+void HostFiles::CopyFile(std::string_view from, std::string_view to) {
+  constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
+  if (const auto bytes = ReadRegularFile(ToHostPath(from), kNoLimit)) {
+    WriteSafely(ToHostPath(to), *bytes, Durability::kWritten);
+  }
+}
+
+void HostFiles::Rename(std::string_view from, std::string_view to) {
+  // The new name is taken as given: it may differ from a present one in case only.
+  const FolderAndName target = SplitPath(HostPathAsGiven(to));
+  RenameFile(WithoutSlashBehind(ToHostPath(from)), SpellAsOnDisk(target.folder) + target.name);
+}
+
+}  // namespace tagsmith

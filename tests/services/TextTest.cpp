@@ -1,0 +1,104 @@
+// Bytes, characters, lines and case: what must come back as it went in.
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "services/CaseFold.h"
+#include "services/Lines.h"
+#include "services/TextEncoding.h"
+#include "services/Utf8.h"
+
+namespace tagsmith {
+namespace {
+
+std::string AllBytes() {
+  std::string bytes;
+  for (int value = 0; value < 256; ++value) bytes += static_cast<char>(value);
+  return bytes;
+}
+
+void ExpectUnharmed(const std::string& bytes, TextEncoding expected) {
+  DecodedText decoded = DecodeText(bytes);
+  EXPECT_EQ(decoded.encoding, expected) << bytes;
+  EXPECT_TRUE(IsValidUtf8(decoded.text)) << bytes;
+  EXPECT_EQ(EncodeText(decoded.text, decoded.encoding), bytes);
+}
+
+TEST(TextEncoding, EveryFileComesBackAsItWas) {
+  ExpectUnharmed("", TextEncoding::kUtf8);
+  ExpectUnharmed("plain\r\nlone\rlone\n", TextEncoding::kUtf8);
+  ExpectUnharmed(std::string("a\0b", 3), TextEncoding::kUtf8);
+  ExpectUnharmed("\xEF\xBB\xBFmark \xC3\xA4 \xF0\x9F\x98\x80", TextEncoding::kUtf8);
+  ExpectUnharmed("caf\xE9 \x80\x93", TextEncoding::kWindows1252);
+  ExpectUnharmed(AllBytes(), TextEncoding::kWindows1252);
+  // No UTF-8: overlong, surrogate, beyond the last plane, cut off.
+  for (const char* bytes :
+       {"\xC0\xAF", "\xE0\x80\xAF", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xC3"}) {
+    ExpectUnharmed(bytes, TextEncoding::kWindows1252);
+  }
+}
+
+TEST(TextEncoding, WhatWindows1252CannotHoldIsWrittenAsUtf8) {
+  TextEncoding encoding = TextEncoding::kWindows1252;
+  EXPECT_EQ(EncodeText("caf\xC3\xA9 \xE2\x82\xAC", encoding), "caf\xE9 \x80");
+  EXPECT_EQ(encoding, TextEncoding::kWindows1252);
+
+  EXPECT_EQ(EncodeText("\xD0\x96", encoding), "\xD0\x96");
+  EXPECT_EQ(encoding, TextEncoding::kUtf8);
+
+  // The bytes C3 A4 would be read as one character on the next load.
+  encoding = TextEncoding::kWindows1252;
+  const std::string twoCharacters = "\xC3\x83\xC2\xA4";
+  EXPECT_EQ(DecodeText(EncodeText(twoCharacters, encoding)).text, twoCharacters);
+}
+
+TEST(Utf8, APositionInsideACharacterSnapsToItsStart) {
+  const std::string text = "a\xC3\xA4\xF0\x9F\x98\x80z";
+  const std::vector<std::size_t> expected = {0, 1, 1, 3, 3, 3, 3, 7, 8, 8};
+  for (std::size_t i = 0; i < expected.size(); ++i) {
+    EXPECT_EQ(SnapToCharacter(text, i), expected[i]) << i;
+  }
+}
+
+TEST(Lines, CountAndPrevailingLineEnd) {
+  EXPECT_EQ(CountLineEnds(""), 0U);
+  EXPECT_EQ(CountLineEnds("a\r\nb\rc\nd"), 3U);
+  EXPECT_EQ(CountLineEnds("\n\r\r\n"), 3U);
+  EXPECT_EQ(NextLineStart("\xC3\xA4\r\nb", 0), 4U);
+  EXPECT_EQ(NextLineStart("ab", 1), 2U);
+
+  EXPECT_EQ(PrevailingLineEnd("no line end"), "\r\n");
+  EXPECT_EQ(PrevailingLineEnd("a\nb\nc\r\n"), "\n");
+  EXPECT_EQ(PrevailingLineEnd("a\rb\rc\n"), "\r");
+  EXPECT_EQ(PrevailingLineEnd("a\nb\r\n"), "\r\n");
+}
+
+TEST(CaseFold, FollowsTheCharacterDatabase) {
+  const auto fold = [](std::string_view text) { return FoldCase(text); };
+  EXPECT_EQ(fold("ABCxyz[{"), "abcxyz[{");
+  EXPECT_EQ(fold("\xC3\x84\xC3\x96"), "\xC3\xA4\xC3\xB6");
+  EXPECT_EQ(FoldCase(U'\u0130'), U'\u0130');  // Folds only in Turkish, or to two characters.
+  EXPECT_EQ(FoldCase(U'\u1E9E'), U'\u00DF');
+  EXPECT_EQ(FoldCase(U'\u03C2'), U'\u03C3');  // Final sigma.
+  EXPECT_EQ(FoldCase(U'\U00010400'), U'\U00010428');
+  EXPECT_EQ(FoldCase(U'\u0101'), U'\u0101');
+  EXPECT_EQ(FoldCase(U'\u0100'), U'\u0101');
+  EXPECT_EQ(fold("A\xFF"), "a\xFF");
+
+  EXPECT_TRUE(
+      EqualWithoutCase("STRA\xC3\x9F"
+                       "E",
+                       "stra\xC3\x9F"
+                       "e"));
+  EXPECT_FALSE(EqualWithoutCase("ab", "abc"));
+  EXPECT_TRUE(LessWithoutCase("a", "B"));
+  EXPECT_TRUE(LessWithoutCase("A", "a"));
+  EXPECT_FALSE(LessWithoutCase("a", "A"));
+  EXPECT_TRUE(LessWithoutCase("ab", "ABC"));
+}
+
+}  // namespace
+}  // namespace tagsmith
