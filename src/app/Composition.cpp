@@ -1,0 +1,43 @@
+#include "app/Composition.h"
+
+#include <utility>
+
+#include "core/Startup.h"
+#include "services/host/CommandTail.h"
+#include "services/host/ProgramDirectory.h"
+#include "toolbars/Install.h"
+
+namespace tagsmith {
+namespace {
+
+std::string TailOf(int argc, const char* const* argv, const HostFiles& files) {
+  return CommandTail(argc, argv, DriveMap(MountPoints()), files.CurrentDirectory());
+}
+
+}  // namespace
+
+Composition::Composition(int argc, const char* const* argv, std::string settingsFile)
+    : settings_(std::move(settingsFile)),
+      dialogs_([this](Form& form) { return windows_.WindowOf(form); },
+               [this](std::string_view path) { return files_.ToHostPath(path); },
+               [](std::string_view path) { return DriveMap::ToSystemPath(path); }),
+      pictures_([this](std::string_view path) { return files_.ToHostPath(path); }),
+      platform_{windows_,
+                dialogs_,
+                clipboard_,
+                keyboard_,
+                events_,
+                files_,
+                settings_,
+                pictures_,
+                calendar_,
+                ProgramDirectory(),
+                TailOf(argc, argv, files_)},
+      application_(platform_),
+      mainForm_(application_) {
+  toolbars::Install(application_);
+}
+
+void Composition::Start() { tagsmith::Start(application_, mainForm_); }
+
+}  // namespace tagsmith

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include "app/Composition.h"
+
+namespace tagsmith {
+
+inline std::string ReadBytes(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+inline void WriteBytes(const std::filesystem::path& path, const std::string& bytes) {
+  std::ofstream(path, std::ios::binary) << bytes;
+}
+
+/// A folder of a user's own: pages and settings, which outlive one run of the program.
+class UserFolder {
+ public:
+  std::filesystem::path operator/(const std::string& name) const {
+    return std::filesystem::path(folder_.path().toStdString()) / name;
+  }
+  std::string SystemPath(const std::string& name) const {
+    return DriveMap::ToSystemPath((*this / name).string());
+  }
+
+ private:
+  QTemporaryDir folder_;
+};
+
+/// One run of the whole program in a real window, started with a command tail.
+class Program {
+ public:
+  explicit Program(const UserFolder& user, std::vector<std::string> arguments = {})
+      : arguments_(std::move(arguments)),
+        pointers_(Pointers(arguments_)),
+        composition_(static_cast<int>(pointers_.size()), pointers_.data(),
+                     (user / "settings.json").string()) {
+    composition_.Start();
+    QApplication::processEvents();
+  }
+
+  frmMain& Form() { return composition_.MainForm(); }
+  Application& App() { return composition_.App(); }
+
+ private:
+  static std::vector<const char*> Pointers(const std::vector<std::string>& arguments) {
+    std::vector<const char*> pointers = {"tagsmith"};
+    for (const std::string& argument : arguments) pointers.push_back(argument.c_str());
+    return pointers;
+  }
+
+  std::vector<std::string> arguments_;
+  std::vector<const char*> pointers_;
+  Composition composition_;
+};
+
+}  // namespace tagsmith

@@ -1,0 +1,244 @@
+#include <gtest/gtest.h>
+
+#include "services/CommonDialog.h"
+#include "support/RunningProgram.h"
+
+namespace tagsmith {
+namespace {
+
+constexpr int kPromptFlags = 35;
+constexpr const char* kPromptTitle = "Save on Open...";
+constexpr const char* kOpening = "Save Current Before Opening Another File?";
+constexpr const char* kCannotWrite =
+    "The file may be read-only, you may not have enough permissions, \r\n"
+    "or the disk is full or write-protected";
+
+class Document : public ::testing::Test {
+ protected:
+  Document() {
+    desktop.files.AddFile("c:\\site\\a.html", "é a");
+    desktop.files.AddFile("c:\\site\\b.html", "é b");
+    program.Begin();
+  }
+
+  void Open(const std::string& path) {
+    desktop.ExpectOpenFile(path);
+    form.mnuFileOpen.Click();
+  }
+
+  // Loads the bytes from a file, saves at once, and gives what is on the disk then.
+  std::string LoadAndSave(std::string_view bytes, std::string_view typed = {}) {
+    desktop.files.AddFile("c:\\raw.html", bytes);
+    Open("c:\\raw.html");
+    program.Pane().Type(typed);
+    form.mnuFileSave.Click();
+    return desktop.files.Contents("c:\\raw.html");
+  }
+
+  // Edits the document, and answers the prompt that this brings.
+  void EditAndExpectPrompt(std::string_view prompt, int answer) {
+    program.Pane().Type("ö");
+    desktop.ExpectMsgBox(prompt, kPromptFlags, kPromptTitle, answer);
+  }
+
+  void ExpectState(std::string_view name, std::string_view text, bool changed) {
+    EXPECT_EQ(form.DocumentName(), name);
+    EXPECT_EQ(form.Caption(), name == "Ready..." ? "Tagsmith" : "Tagsmith - " + std::string(name));
+    EXPECT_EQ(form.txtEdit.Text(), text);
+    EXPECT_EQ(form.DocumentChanged(), changed);
+    EXPECT_EQ(form.MousePointer(), kDefaultPointer);
+  }
+
+  RunningProgram program;
+  ScriptedDesktop& desktop = program.desktop;
+  frmMain& form = program.form;
+};
+
+TEST_F(Document, SavesWhatItLoadedByteForByteWithOneLineEndMore) {
+  const std::vector<std::string> files = {"", "a\r\nb\nc\rd", std::string("n\0l", 3),
+                                          "\xEF\xBB\xBFmärk", "latin \xE9\x80\x81 page\n"};
+  for (const std::string& bytes : files) EXPECT_EQ(LoadAndSave(bytes), bytes + "\r\n");
+  EXPECT_EQ(desktop.files.LastDurability(), Durability::kFlushed);
+  EXPECT_EQ(LoadAndSave("caf\xE9", "ü"),
+            "\xFC"
+            "caf\xE9\r\n")
+      << "the file's encoding stays";
+  EXPECT_EQ(LoadAndSave("caf\xE9", "Ω"), "Ωcafé\r\n") << "unless it cannot hold the text";
+  program.Pane().Undo();
+  EXPECT_EQ(form.txtEdit.Text(), "café") << "the typing is undone";
+  program.Pane().Undo();
+  EXPECT_EQ(form.txtEdit.Text(), "café") << "and nothing from before the load";
+}
+
+TEST_F(Document, OpensNamesAndShowsAFile) {
+  form.MyDirectory.SetPath("c:\\site");
+  Open(" c:\\site\\a.html");
+  EXPECT_EQ(desktop.lastFileRequest.initialDirectory, "c:\\site\\");
+  EXPECT_EQ(desktop.lastFileRequest.filter.substr(0, 45),
+            "HTML Files|*.html;*.htm|JavaScripts|*.js|VBSc");
+  ExpectState(" c:\\site\\a.html", "é a", false);
+  Open("c:\\site\\a.html");
+  EXPECT_EQ(form.MyDirectory.Path(), "c:\\site");
+  EXPECT_EQ(form.MyTabFiles.TabCaption(0), "a.html");
+  EXPECT_FALSE(form.cmdSave.Enabled());
+  program.Pane().Type("x");
+  EXPECT_TRUE(form.cmdSave.Enabled());
+}
+
+TEST_F(Document, KeepsNameTextAndPlaceOfTheOldDocumentWhenALoadFails) {
+  Open("c:\\site\\a.html");
+  desktop.files.AddFile("c:\\other\\999999.html", std::string(999999, 'x'));
+  desktop.files.AddFile("c:\\other\\1000000.html", std::string(1000000, 'x'));
+  desktop.files.AddFile("c:\\other\\secret.html", "s");
+  desktop.files.SetFault("c:\\other\\secret.html", MemoryFiles::Fault::kUnreadable);
+
+  EditAndExpectPrompt(kOpening, kNo);
+  desktop.ExpectOpenFile("c:\\other\\secret.html");
+  desktop.ExpectMsgBox("Error Loading Text", kInformationIcon, "Sorry...");
+  form.mnuFileOpen.Click();
+  ExpectState("c:\\site\\a.html", "öé a", true);
+  EXPECT_EQ(form.mnuRecentlyUsed(0).Caption(), "c:\\other\\secret.html");
+  EXPECT_EQ(form.MyDirectory.Path(), "c:\\other");
+
+  desktop.ExpectMsgBox(kOpening, kPromptFlags, kPromptTitle, kNo);
+  desktop.ExpectOpenFile("c:\\other\\1000000.html");
+  desktop.ExpectMsgBox("The File Is Too Large For Tagsmith", kInformationIcon, "Sorry...");
+  form.mnuFileOpen.Click();
+  ExpectState("c:\\site\\a.html", "öé a", false);
+  form.mnuFileSave.Click();
+  EXPECT_EQ(desktop.files.Contents("c:\\site\\a.html"), "öé a\r\n");
+
+  Open("c:\\other\\999999.html");
+  EXPECT_EQ(form.DocumentName(), "c:\\other\\999999.html");
+}
+
+TEST_F(Document, PromptGuardsEditsAndCancelChangesNothing) {
+  Open("c:\\site\\a.html");
+  program.Pane().Type("ö");
+  program.Pane().Select(1, 3);
+  for (Menu* command : {&form.mnuFileNew, &form.mnuFileOpen}) {
+    desktop.ExpectMsgBox(kOpening, kPromptFlags, kPromptTitle, kCancel);
+    command->Click();
+  }
+  desktop.ExpectMsgBox("Save Current File Before Closing?", kPromptFlags, kPromptTitle, kCancel);
+  form.mnuFileClose.Click();
+  ExpectState("c:\\site\\a.html", "öé a", true);
+  EXPECT_EQ(form.txtEdit.SelLength(), 4U);
+
+  desktop.ExpectMsgBox(kOpening, kPromptFlags, kPromptTitle, kYes);
+  form.mnuFileNew.Click();
+  EXPECT_EQ(desktop.files.Contents("c:\\site\\a.html"), "öé a\r\n");
+  ExpectState("Untitled.html", kTemplate, false);
+  EXPECT_EQ(form.MyDirectory.Path(), "c:\\tagsmith");
+
+  EditAndExpectPrompt(kOpening, kYes);
+  desktop.ExpectSaveFile(std::nullopt);
+  Open("c:\\site\\b.html");
+  ExpectState("c:\\site\\b.html", "é b", false);
+}
+
+TEST_F(Document, CancelledDialogsUseNoEarlierName) {
+  Open("c:\\site\\a.html");
+  for (const bool cancelError : {false, true}) {
+    form.dlgCommonDialog.cancelError = cancelError;
+    program.Pane().Type("x");
+    desktop.ExpectSaveFile(std::nullopt);
+    form.mnuFileSaveAs.Click();
+    desktop.ExpectMsgBox(kOpening, kPromptFlags, kPromptTitle, kNo);
+    desktop.ExpectOpenFile(std::nullopt);
+    form.mnuFileOpen.Click();
+  }
+  ExpectState("c:\\site\\a.html", "xxé a", true);
+  EXPECT_EQ(desktop.files.Contents("c:\\site\\a.html"), "é a");
+}
+
+TEST_F(Document, SaveAsNamesTheDocumentAfterItsNewFile) {
+  program.Pane().Select(0, 0);
+  program.Pane().Type("ü");
+  form.MyDirectory.SetPath("c:\\site");
+  desktop.ExpectSaveFile("c:\\site\\c");
+  form.cmdSave.Click();
+  const std::string text = "ü" + std::string(kTemplate);
+  ExpectState("c:\\site\\c", text, false);
+  EXPECT_EQ(desktop.files.Contents("c:\\site\\c"), text + "\r\n");
+  EXPECT_EQ(form.MyFileList.ListCount(), 3);
+  EXPECT_EQ(form.mnuRecentlyUsed(0).Caption(), "c:\\site\\c");
+  EXPECT_FALSE(form.cmdSave.Enabled());
+
+  program.Pane().Type("y");
+  desktop.files.SetFault("c:\\site", MemoryFiles::Fault::kDiskFull);
+  desktop.ExpectSaveFile("c:\\site\\d");
+  form.mnuFileSaveAs.Click();
+  EXPECT_EQ(form.DocumentName(), "c:\\site\\c");
+  EXPECT_TRUE(form.DocumentChanged());
+  EXPECT_EQ(form.MousePointer(), kDefaultPointer);
+}
+
+TEST_F(Document, FailedSaveOffersAnotherPlace) {
+  Open("c:\\site\\a.html");
+  desktop.files.SetFault("c:\\site\\a.html", MemoryFiles::Fault::kNotWritable);
+  program.Pane().Type("ü");
+  desktop.ExpectMsgBox(kCannotWrite, kInformationIcon, "Sorry...");
+  desktop.ExpectSaveFile(std::nullopt);
+  form.mnuFileSave.Click();
+  ExpectState("c:\\site\\a.html", "üé a", true);
+
+  desktop.files.Remove("c:\\site");
+  desktop.ExpectMsgBox(kCannotWrite, kInformationIcon, "Sorry...");
+  desktop.ExpectSaveFile("c:\\elsewhere.html");
+  form.mnuFileSave.Click();
+  ExpectState("c:\\elsewhere.html", "üé a", false);
+}
+
+TEST_F(Document, ClosesAndStartsAnewWhenThePaneGetsTheFocus) {
+  Open("c:\\site\\a.html");
+  EditAndExpectPrompt("Save Current File Before Closing?", kNo);
+  form.mnuFileClose.Click();
+  ExpectState("Ready...", "", false);
+  EXPECT_TRUE(form.cmdSave.Enabled());
+  EXPECT_FALSE(form.txtEdit.HasFocus());
+  program.Pane().Undo();
+  EXPECT_EQ(form.txtEdit.Text(), "");
+
+  form.mnuFileClose.Click();
+  desktop.ExpectMsgBox("There Is No Document To Save", kInformationIcon, "Save Aborted...");
+  form.mnuFileSave.Click();
+  ExpectState("Ready...", "", false);
+
+  form.txtEdit.UserFocus();
+  ExpectState("Untitled.html", kTemplate, false);
+  form.mnuFileClose.Click();
+  desktop.ExpectMsgBox("There Is No Document To Save", kInformationIcon, "Save Aborted...");
+  form.MarkChanged();
+  form.SetDocumentChanged(false);
+  form.cmdSave.Click();
+  ExpectState("Untitled.html", kTemplate, false);
+
+  desktop.ExpectMsgBox("This feature is coming soon to a Tagsmith near you", kInformationIcon,
+                       "Save As Unix");
+  form.mnuSaveAsUnix.Click();
+}
+
+TEST_F(Document, AnInsertionIsNeverLostToTheDocumentThatItStarts) {
+  form.mnuFileClose.Click();
+  form.InsertText("é");
+  ExpectState("Untitled.html", "é" + std::string(kTemplate), true);
+
+  form.SetDocumentChanged(false);
+  form.mnuFileClose.Click();
+  form.InsertAround("<Ü>", "</Ü>");
+  ExpectState("Untitled.html", "<Ü></Ü>" + std::string(kTemplate), true);
+  EXPECT_EQ(form.txtEdit.SelStart(), std::string_view("<Ü>").size());
+
+  form.SetDocumentChanged(false);
+  form.mnuFileClose.Click();
+  form.ReplaceDocument("whole pägé");
+  ExpectState("Untitled.html", "whole pägé", false);
+  EXPECT_TRUE(form.txtEdit.HasFocus());
+  EXPECT_FALSE(form.cmdSave.Enabled());
+  program.Pane().Undo();
+  EXPECT_EQ(form.txtEdit.Text(), "whole pägé");
+}
+
+}  // namespace
+}  // namespace tagsmith

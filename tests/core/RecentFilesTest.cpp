@@ -1,0 +1,128 @@
+#include <gtest/gtest.h>
+
+#include "core/RecentFiles.h"
+#include "support/RunningProgram.h"
+
+namespace tagsmith {
+namespace {
+
+constexpr const char* kOpening = "Save Current Before Opening Another File?";
+
+std::string PathOf(int number) { return "c:\\dé\\" + std::to_string(number) + ".html"; }
+
+class Recent : public ::testing::Test {
+ protected:
+  Recent() {
+    for (int i = 0; i <= 11; ++i) desktop.files.AddFile(PathOf(i), "é" + std::to_string(i));
+    program.Begin();
+  }
+
+  void Open(const std::string& path) {
+    desktop.ExpectOpenFile(path);
+    form.mnuFileOpen.Click();
+  }
+
+  std::string Tabs() const {
+    std::string captions;
+    for (int i = 0; i < 5; ++i) captions += form.MyTabFiles.TabCaption(i) + "|";
+    return captions;
+  }
+
+  RunningProgram program;
+  ScriptedDesktop& desktop = program.desktop;
+  frmMain& form = program.form;
+};
+
+TEST_F(Recent, KeepsTheTenNewestAndTheFiveNewestTabs) {
+  for (int i = 1; i <= 11; ++i) Open(PathOf(i));
+  for (int i = 0; i < 10; ++i) EXPECT_EQ(form.mnuRecentlyUsed(i).Caption(), PathOf(11 - i));
+  EXPECT_EQ(Tabs(), "11.html|10.html|9.html|8.html|7.html|");
+  EXPECT_EQ(form.MyTabFiles.Tab(), 0);
+
+  Open(PathOf(11));
+  EXPECT_EQ(form.mnuRecentlyUsed(0).Caption(), PathOf(11));
+  EXPECT_EQ(form.mnuRecentlyUsed(1).Caption(), PathOf(11)) << "the list is not searched";
+  Open(PathOf(8));
+  EXPECT_EQ(form.MyTabFiles.Tab(), 3) << "a file with a tab selects it";
+  EXPECT_EQ(Tabs(), "11.html|10.html|9.html|8.html|7.html|");
+  Open(PathOf(1));
+  EXPECT_EQ(form.MyTabFiles.Tab(), 3) << "a new tab does not";
+  EXPECT_EQ(Tabs(), "1.html|11.html|10.html|9.html|8.html|");
+
+  form.Unload();
+  EXPECT_EQ(desktop.settings.values["Settings/RU0"], PathOf(1));
+  EXPECT_EQ(desktop.settings.values["Settings/RU9"], PathOf(5));
+}
+
+TEST_F(Recent, MenuEntryLoadsItsFileWithoutMovingUp) {
+  Open(PathOf(1));
+  Open(PathOf(2));
+  form.mnuRecentlyUsed(5).Click();
+  EXPECT_EQ(form.DocumentName(), PathOf(2)) << "a free entry does nothing";
+
+  program.Pane().Type("ö");
+  desktop.files.Remove(PathOf(1));
+  desktop.ExpectMsgBox("The Specified File Cannot Be Found", kInformationIcon,
+                       "Error Loading File...");
+  form.mnuRecentlyUsed(1).Click();
+  EXPECT_TRUE(form.DocumentChanged());
+
+  desktop.files.AddFile(PathOf(1), "new é");
+  desktop.ExpectMsgBox(kOpening, 35, "Save on Open...", kNo);
+  form.mnuRecentlyUsed(1).Click();
+  EXPECT_EQ(form.txtEdit.Text(), "new é");
+  EXPECT_EQ(form.Caption(), "Tagsmith - " + PathOf(1));
+  EXPECT_EQ(form.MyDirectory.Path(), "c:\\dé");
+  EXPECT_EQ(form.MyTabFiles.Tab(), 1);
+  EXPECT_EQ(form.mnuRecentlyUsed(0).Caption(), PathOf(2));
+}
+
+TEST_F(Recent, SaveOnTheWayDoesNotChangeWhichFileAMenuEntryMeans) {
+  Open(PathOf(1));
+  form.mnuFileNew.Click();
+  program.Pane().Type("ö");
+  desktop.ExpectMsgBox(kOpening, 35, "Save on Open...", kYes);
+  desktop.ExpectSaveFile("c:\\dé\\saved.html");
+  form.mnuRecentlyUsed(0).Click();
+  EXPECT_EQ(form.DocumentName(), PathOf(1));
+  EXPECT_EQ(form.txtEdit.Text(), "é1");
+}
+
+TEST_F(Recent, ClickOnATabSwitchesTheDocument) {
+  Open(PathOf(1));
+  Open(PathOf(2));
+  form.MyTabFiles.Select(4);
+  EXPECT_EQ(form.DocumentName(), PathOf(2)) << "a free tab stays selected and does nothing";
+  form.MyTabFiles.Select(1);
+  EXPECT_EQ(form.DocumentName(), PathOf(1));
+  EXPECT_EQ(form.txtEdit.Text(), "é1");
+
+  program.Pane().Type("ö");
+  desktop.ExpectMsgBox(kOpening, 35, "Save on Open...", kCancel);
+  form.MyTabFiles.Select(0);
+  EXPECT_EQ(form.MyTabFiles.Tab(), 0);
+  EXPECT_EQ(form.DocumentName(), PathOf(1));
+  EXPECT_TRUE(form.DocumentChanged());
+
+  form.MyDirectory.SetPath("c:\\");
+  form.MyTabFiles.SetTab(4);
+  desktop.files.Remove(PathOf(2));
+  desktop.ExpectMsgBox(kOpening, 35, "Save on Open...", kNo);
+  desktop.ExpectMsgBox("Error Loading Text", kInformationIcon, "Sorry...");
+  form.MyTabFiles.Select(0);
+  EXPECT_EQ(form.DocumentName(), PathOf(1)) << "the text in the pane keeps its own name";
+  EXPECT_EQ(form.MyDirectory.Path(), "c:\\");
+  EXPECT_FALSE(form.DocumentChanged());
+}
+
+TEST_F(Recent, TabsTellPathsApartNotNames) {
+  desktop.files.AddFile("c:\\other\\1.html", "");
+  form.Recent().AddFileTab(PathOf(1));
+  form.Recent().AddFileTab("c:\\other\\1.html");
+  form.Recent().AddFileTab("C:\\other\\1.html");
+  EXPECT_EQ(Tabs(), "1.html|1.html|1.html|||");
+  EXPECT_EQ(form.mnuRecentlyUsed(0).Caption(), "");
+}
+
+}  // namespace
+}  // namespace tagsmith

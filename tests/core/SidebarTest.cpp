@@ -1,0 +1,134 @@
+#include <gtest/gtest.h>
+
+#include "core/Sidebar.h"
+#include "support/RunningProgram.h"
+
+namespace tagsmith {
+namespace {
+
+constexpr const char* kInsertDisk = "Please Insert A Disk In The Drive First";
+
+class SidebarLists : public ::testing::Test {
+ protected:
+  SidebarLists() {
+    desktop.files.AddFile("c:\\site\\Föto.GIF", "");
+    desktop.files.AddFile("c:\\site\\page.html", "é");
+    desktop.files.AddFile("c:\\site\\pix.jpeg", "");
+    desktop.files.AddDirectory("c:\\media\\Stück\\sub");
+    desktop.files.AddDrive('d', "Stück", "c:\\media\\Stück");
+    desktop.files.AddDrive('e', "empty", "c:\\media\\none");
+  }
+
+  RunningProgram program;
+  ScriptedDesktop& desktop = program.desktop;
+  frmMain& form = program.form;
+};
+
+TEST_F(SidebarLists, RestoreWhatWasStoredAndStoreItAtTheEnd) {
+  desktop.settings.values = {{"Settings/Drive", "d: [Stück]"},
+                             {"Settings/Dir", "c:\\media\\Stück\\sub"}};
+  program.Begin();
+  EXPECT_EQ(form.MyDrive.Drive(), "d: [Stück]");
+  EXPECT_EQ(form.MyDirectory.Path(), "c:\\media\\Stück\\sub");
+  EXPECT_EQ(form.MyDrive.ToolTipText(), "d: [Stück]");
+  EXPECT_EQ(form.MyDirectory.ToolTipText(), "c:\\media\\Stück\\sub");
+
+  form.MyDrive.Select(0);
+  EXPECT_EQ(form.MyFileList.Path(), "c:\\");
+  form.MyDirectory.SetPath("site");
+  EXPECT_TRUE(form.Unload());
+  EXPECT_EQ(desktop.settings.values["Settings/Drive"], "c: [root]");
+  EXPECT_EQ(desktop.settings.values["Settings/Dir"], "c:\\site");
+}
+
+TEST_F(SidebarLists, FallBackToTheRootWithoutAWord) {
+  const std::pair<const char*, const char*> stored[] = {
+      {"x:", "c:\\site"}, {"c:", "c:\\gone"}, {"d:", "d:\\gone"}};
+  for (const auto& [drive, directory] : stored) {
+    RunningProgram again;
+    again.desktop.files.AddDirectory("c:\\site");
+    again.desktop.settings.values = {{"Settings/Drive", drive}, {"Settings/Dir", directory}};
+    again.Begin();
+    EXPECT_EQ(again.form.MyDrive.Drive(), "c: [root]");
+    EXPECT_EQ(again.form.MyDirectory.Path(), "c:\\");
+  }
+}
+
+TEST_F(SidebarLists, DriveWithoutADiskLeadsBackToTheFirst) {
+  program.Begin();
+  form.mnuRefreshDriveLists.Click();
+  desktop.ExpectMsgBox(kInsertDisk, kInformationIcon, "Sorry...");
+  form.MyDrive.Select(2);
+  EXPECT_EQ(form.MyDrive.Drive(), "c: [root]");
+  EXPECT_EQ(form.MyDirectory.Path(), "c:\\");
+}
+
+TEST_F(SidebarLists, FollowAFileAndStayWhereItsFolderCannotBeShown) {
+  program.Begin();
+  form.Lists().SyncFileBoxes("c:\\site\\page.html");
+  EXPECT_EQ(form.MyFileList.List(0), "Föto.GIF");
+  for (const char* path : {"x:\\site\\page.html", " c:\\site\\page.html", "c:\\gone\\page.html",
+                           "page.html", "e:\\page.html", ""}) {
+    form.Lists().SyncFileBoxes(path);
+    EXPECT_EQ(form.MyDirectory.Path(), "c:\\site") << path;
+  }
+  form.Lists().SyncFileBoxes("d:\\sub\\x.html");
+  EXPECT_EQ(form.MyDirectory.Path(), "c:\\media\\Stück\\sub");
+}
+
+TEST_F(SidebarLists, RefreshShowsWhatIsOnTheDisk) {
+  program.Begin();
+  form.MyDirectory.SetPath("c:\\site");
+  desktop.files.AddFile("c:\\site\\a.txt", "");
+  desktop.files.AddDrive('f', "neu", "c:\\media");
+  form.mnuRefreshDriveLists.Click();
+  EXPECT_EQ(form.MyFileList.List(0), "a.txt");
+  EXPECT_EQ(form.MyDrive.ListCount(), 4);
+  desktop.files.Remove("c:\\site");
+  form.mnuRefreshDriveLists.Click();
+  EXPECT_EQ(form.MyFileList.Path(), "c:\\");
+}
+
+TEST_F(SidebarLists, DoubleClickOpensWhateverIsThere) {
+  program.Begin();
+  form.MyDirectory.SetPath("c:\\site");
+  form.MyFileList.Select(1);
+  EXPECT_EQ(form.MyFileList.ToolTipText(), "page.html");
+  program.Pane().Type("ö");
+  desktop.ExpectMsgBox("Save Current Before Opening Another File?", 35, "Save on Open...", kCancel);
+  form.MyFileList.DoubleClick(1);
+  EXPECT_TRUE(form.DocumentChanged());
+
+  // The file that was asked for is loaded, though the save on the way moves the lists.
+  desktop.ExpectMsgBox("Save Current Before Opening Another File?", 35, "Save on Open...", kYes);
+  desktop.ExpectSaveFile("c:\\saved.html");
+  form.MyFileList.DoubleClick(1);
+  EXPECT_EQ(form.Caption(), "Tagsmith - c:\\site\\page.html");
+  EXPECT_EQ(form.txtEdit.Text(), "é");
+  EXPECT_EQ(form.mnuRecentlyUsed(0).Caption(), "c:\\site\\page.html");
+}
+
+TEST_F(SidebarLists, OnlyPicturesDragAndADropCountsAsAnEdit) {
+  program.Begin();
+  form.MyDirectory.SetPath("c:\\site");
+  for (int i = 0; i < 3; ++i) {
+    form.MyFileList.Select(i);
+    form.MyFileList.MouseDown(kRightButton);
+    EXPECT_EQ(form.MyFileList.IsDragging(), i == 0) << form.MyFileList.List(i);
+    form.MyFileList.MouseUp(kRightButton);
+    EXPECT_FALSE(form.MyFileList.IsDragging());
+  }
+
+  form.mnuFileClose.Click();
+  form.MyDirectory.SetPath("c:\\site");
+  form.MyFileList.Select(0);
+  form.txtEdit.Drop(form.MyFileList, 0, 0);
+  EXPECT_EQ(form.txtEdit.Text(),
+            "<IMG Src=\"Föto.GIF\" Border=\"0\"></IMG>" + std::string(kTemplate));
+  EXPECT_TRUE(form.DocumentChanged());
+  EXPECT_TRUE(form.cmdSave.Enabled());
+  EXPECT_EQ(form.MyImage.GetPicture(), nullptr);
+}
+
+}  // namespace
+}  // namespace tagsmith

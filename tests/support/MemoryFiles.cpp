@@ -1,0 +1,199 @@
+#include "support/MemoryFiles.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "services/CaseFold.h"
+#include "services/Error.h"
+
+namespace tagsmith {
+namespace {
+
+[[noreturn]] void Fail(ErrorCode code, const std::string& text, std::string_view path) {
+  throw Error(code, text + ": " + std::string(path));
+}
+
+// Without the backslash behind it.
+std::string Bare(std::string_view path) {
+  while (path.ends_with('\\')) path.remove_suffix(1);
+  return std::string(path);
+}
+
+std::string ParentOf(std::string_view path) {
+  const std::size_t slash = path.rfind('\\');
+  return std::string(slash == std::string_view::npos ? std::string_view() : path.substr(0, slash));
+}
+
+std::string NameOf(std::string_view path) { return std::string(path.substr(path.rfind('\\') + 1)); }
+
+bool HasDrive(std::string_view path) { return path.size() >= 2 && path[1] == ':'; }
+
+}  // namespace
+
+MemoryFiles::MemoryFiles() {
+  AddDrive('c', "root", "c:\\");
+  AddDirectory("c:\\");
+}
+
+// --- What the test lays down and looks up ---
+
+void MemoryFiles::AddFile(std::string_view path, std::string_view bytes) {
+  AddDirectory(ParentOf(path));
+  tree_[std::string(path)] = {false, std::string(bytes), Fault::kNone};
+}
+
+void MemoryFiles::AddDirectory(std::string_view path) {
+  for (std::string at = Bare(path); !at.empty(); at = ParentOf(at)) tree_[at].isDirectory = true;
+}
+
+void MemoryFiles::AddDrive(char letter, std::string_view label, std::string_view root) {
+  drives_.push_back({letter, std::string(label), std::string(root)});
+}
+
+void MemoryFiles::Remove(std::string_view path) {
+  const std::string bare = Bare(path);
+  std::erase_if(tree_, [&bare](const auto& entry) {
+    return entry.first == bare || entry.first.starts_with(bare + "\\");
+  });
+}
+
+void MemoryFiles::SetFault(std::string_view path, Fault fault) {
+  const auto found = tree_.find(Bare(path));
+  if (found == tree_.end()) {
+    ADD_FAILURE() << "no such file or folder: " << path;
+    return;
+  }
+  found->second.fault = fault;
+}
+
+std::string MemoryFiles::Contents(std::string_view path) const {
+  const auto found = tree_.find(std::string(path));
+  if (found != tree_.end() && !found->second.isDirectory) return found->second.bytes;
+  ADD_FAILURE() << "no such file: " << path;
+  return {};
+}
+
+std::vector<std::string> MemoryFiles::AllFiles() const {
+  std::vector<std::string> paths;
+  for (const auto& [path, entry] : tree_) {
+    if (!entry.isDirectory) paths.push_back(path);
+  }
+  return paths;
+}
+
+// --- FileSystem ---
+
+MemoryFiles::Tree::const_iterator MemoryFiles::Find(std::string_view path) const {
+  const std::string full = Full(path, CurrentDirectory());
+  const auto exact = tree_.find(full);
+  if (exact != tree_.end()) return exact;
+  return std::find_if(tree_.begin(), tree_.end(),
+                      [&full](const auto& entry) { return EqualWithoutCase(entry.first, full); });
+}
+
+std::string MemoryFiles::Full(std::string_view path, std::string_view base) const {
+  std::string full(path);
+  if (path.starts_with('\\')) {
+    full = std::string(base.substr(0, 2)).append(path);
+  } else if (!HasDrive(path)) {
+    full = Bare(base).append("\\").append(path);
+  }
+  const auto drive = std::find_if(drives_.begin(), drives_.end(), [&full](const Drive& known) {
+    return EqualWithoutCase(full.substr(0, 1), std::string(1, known.letter));
+  });
+  if (drive == drives_.end()) Fail(ErrorCode::kDeviceUnavailable, "Device unavailable", path);
+  return Bare(Bare(drive->root) + full.substr(2));
+}
+
+const MemoryFiles::Tree::value_type& MemoryFiles::Directory(std::string_view path) const {
+  const auto found = Find(path);
+  if (found == tree_.end() || !found->second.isDirectory ||
+      found->second.fault == Fault::kUnreadable) {
+    Fail(ErrorCode::kPathNotFound, "Path not found", path);
+  }
+  return *found;
+}
+
+std::string MemoryFiles::ResolveDirectory(std::string_view path, std::string_view base) const {
+  const std::string& found = Directory(Full(path, base)).first;
+  return found.size() == 2 ? found + "\\" : found;
+}
+
+std::vector<std::string> MemoryFiles::NamesIn(std::string_view directory, bool directories) const {
+  const std::string above = Directory(directory).first;
+  std::vector<std::string> names;
+  for (const auto& [path, entry] : tree_) {
+    const std::string name = NameOf(path);
+    const bool isChild = path.size() > above.size() && ParentOf(path) == above;
+    if (isChild && entry.isDirectory == directories && !name.starts_with('.')) {
+      names.push_back(name);
+    }
+  }
+  return names;
+}
+
+std::vector<std::string> MemoryFiles::DirectoryNames(std::string_view directory) const {
+  return NamesIn(directory, true);
+}
+
+std::vector<std::string> MemoryFiles::FileNames(std::string_view directory) const {
+  return NamesIn(directory, false);
+}
+
+bool MemoryFiles::FileExists(std::string_view path) const noexcept {
+  try {
+    const auto found = Find(path);
+    return !path.empty() && found != tree_.end() && !found->second.isDirectory;
+  } catch (const Error&) {
+    return false;
+  }
+}
+
+std::optional<std::string> MemoryFiles::ReadFile(std::string_view path, std::size_t limit) const {
+  const auto found = Find(path);
+  if (found == tree_.end()) Fail(ErrorCode::kFileNotFound, "File not found", path);
+  const Entry& entry = found->second;
+  if (entry.isDirectory) Fail(ErrorCode::kNotARegularFile, "Not a file", path);
+  if (entry.fault == Fault::kUnreadable) {
+    Fail(ErrorCode::kPermissionDenied, "Permission denied", path);
+  }
+  if (entry.bytes.size() >= limit) return std::nullopt;
+  return entry.bytes;
+}
+
+void MemoryFiles::WriteFile(std::string_view path, std::string_view bytes, Durability durability) {
+  const auto found = Find(path);
+  const std::string& place = found != tree_.end() ? found->first : Full(path, CurrentDirectory());
+  const auto& folder = Directory(ParentOf(place)).second;
+  const Fault fault = found != tree_.end() ? found->second.fault : folder.fault;
+  if (fault == Fault::kNotWritable) Fail(ErrorCode::kPermissionDenied, "Permission denied", path);
+  if (fault == Fault::kDiskFull) Fail(ErrorCode::kDiskFull, "Disk full", path);
+  Entry& entry = tree_[place];
+  if (entry.isDirectory) Fail(ErrorCode::kNotARegularFile, "Not a file", path);
+  entry.bytes = bytes;
+  lastDurability_ = durability;
+}
+
+void MemoryFiles::CopyFile(std::string_view from, std::string_view to) {
+  WriteFile(to, *ReadFile(from, std::string::npos), Durability::kWritten);
+}
+
+void MemoryFiles::Rename(std::string_view from, std::string_view to) {
+  const std::string oldPath = Full(from, CurrentDirectory());
+  const std::string newPath = Full(to, CurrentDirectory());
+  if (oldPath == newPath) return;
+  if (!tree_.contains(oldPath)) Fail(ErrorCode::kFileNotFound, "File not found", from);
+  if (tree_.contains(newPath)) Fail(ErrorCode::kOther, "File exists", to);
+  if (tree_[oldPath].fault == Fault::kNotWritable) {
+    Fail(ErrorCode::kPermissionDenied, "Permission denied", from);
+  }
+  Tree moved;
+  for (auto& [path, entry] : tree_) {
+    const bool moves = path == oldPath || path.starts_with(oldPath + "\\");
+    moved[moves ? newPath + path.substr(oldPath.size()) : path] = std::move(entry);
+  }
+  tree_ = std::move(moved);
+}
+
+}  // namespace tagsmith

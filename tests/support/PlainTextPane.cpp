@@ -1,0 +1,148 @@
+#include "support/PlainTextPane.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "services/Clipboard.h"
+#include "services/Lines.h"
+#include "services/Utf8.h"
+
+namespace tagsmith {
+
+// --- The user ---
+
+void PlainTextPane::Type(std::string_view text) {
+  while (!text.empty()) {
+    const DecodedChar character = DecodeUtf8(text, 0);
+    std::size_t length = std::max<std::size_t>(character.length, 1);
+    if (text.starts_with("\r\n")) length = 2;
+    const bool isLineEnd = text.front() == '\r' || text.front() == '\n';
+    PressKey(isLineEnd ? '\r' : static_cast<int>(character.codePoint),
+             isLineEnd ? std::string_view(lineEnd_) : text.substr(0, length));
+    text.remove_prefix(length);
+  }
+}
+
+void PlainTextPane::PressKey(int keyAscii, std::string_view text) {
+  if (listener_ != nullptr && !listener_->UserKeyPress(keyAscii)) return;
+  if (keyAscii != '\b') {
+    UserReplace(selection_, text);
+    return;
+  }
+  if (selection_.length == 0 && selection_.start > 0) {
+    const bool afterLineEnd = std::string_view(text_).substr(0, selection_.start).ends_with("\r\n");
+    const std::size_t start = Snap(selection_.start - (afterLineEnd ? 2 : 1), 0).start;
+    selection_ = {start, selection_.start - start};
+  }
+  if (selection_.length > 0) UserReplace(selection_, {});
+}
+
+void PlainTextPane::PressKeys(std::string_view keys) {
+  constexpr std::size_t kCombination = std::string_view("^(z)").size();
+  while (!keys.empty()) {
+    if (keys.starts_with("^(") && keys.size() >= kCombination) {
+      Press(keys[2]);
+      keys.remove_prefix(kCombination);
+      continue;
+    }
+    const std::size_t length = std::max<std::size_t>(DecodeUtf8(keys, 0).length, 1);
+    Type(keys.substr(0, length));
+    keys.remove_prefix(length);
+  }
+}
+
+void PlainTextPane::Press(char controlKey) {
+  if (controlKey == 'z') {
+    if (TryUndo()) TellChange();
+    return;
+  }
+  if (clipboard_ == nullptr) return;
+  if (controlKey == 'v') {
+    const std::string text = clipboard_->GetText();
+    if (!text.empty()) UserReplace(selection_, text);
+    return;
+  }
+  if (selection_.length == 0) return;
+  clipboard_->SetText(TextRange(selection_.start, selection_.length));
+  if (controlKey == 'x') UserReplace(selection_, {});
+}
+
+void PlainTextPane::UserReplace(Span span, std::string_view text) {
+  Replace(span, text);
+  TellChange();
+}
+
+void PlainTextPane::TellChange() {
+  if (listener_ != nullptr) listener_->UserChanged();
+}
+
+// --- The pane ---
+
+PlainTextPane::Span PlainTextPane::Snap(std::size_t start, std::size_t length) const {
+  const std::size_t clamped = std::min(start, text_.size());
+  const std::size_t end = clamped + std::min(length, text_.size() - clamped);
+  const std::size_t first = SnapToCharacter(text_, clamped);
+  return {first, SnapToCharacter(text_, end) - first};
+}
+
+void PlainTextPane::Replace(Span span, std::string_view text) {
+  if (groups_ == 0) undo_.emplace_back();
+  undo_.back().push_back({span.start, text_.substr(span.start, span.length), std::string(text)});
+  text_.replace(span.start, span.length, text);
+  selection_ = {span.start + text.size(), 0};
+}
+
+void PlainTextPane::SetText(std::string_view text) {
+  lineEnd_ = PrevailingLineEnd(text);
+  Replace({0, text_.size()}, text);
+  selection_ = {};
+}
+
+std::string PlainTextPane::TextRange(std::size_t start, std::size_t length) const {
+  const Span span = Snap(start, length);
+  return text_.substr(span.start, span.length);
+}
+
+void PlainTextPane::Select(std::size_t start, std::size_t length) {
+  selection_ = Snap(start, length);
+}
+
+void PlainTextPane::ReplaceSelection(std::string_view text) {
+  if (selection_.length > 0 || !text.empty()) Replace(selection_, text);
+}
+
+std::size_t PlainTextPane::LineFromPosition(std::size_t position) const {
+  const std::size_t place = Snap(position, 0).start;
+  std::string_view before = std::string_view(text_).substr(0, place);
+  // Between CR and LF the line has not ended yet.
+  const bool inLineEnd = before.ends_with('\r') && text_.substr(place, 1) == "\n";
+  if (inLineEnd) before.remove_suffix(1);
+  return CountLineEnds(before);
+}
+
+void PlainTextPane::BeginUndoGroup() {
+  if (groups_++ == 0) undo_.emplace_back();
+}
+
+void PlainTextPane::EndUndoGroup() {
+  if (groups_ == 0 || --groups_ > 0) return;
+  if (undo_.back().empty()) undo_.pop_back();
+}
+
+bool PlainTextPane::TryUndo() {
+  if (groups_ > 0 || undo_.empty()) return false;
+  const Step step = std::exchange(undo_.back(), {});
+  undo_.pop_back();
+  for (auto edit = step.rbegin(); edit != step.rend(); ++edit) {
+    text_.replace(edit->start, edit->inserted.size(), edit->removed);
+    selection_ = {edit->start + edit->removed.size(), 0};
+  }
+  return true;
+}
+
+void PlainTextPane::EmptyUndoHistory() {
+  undo_.clear();
+  if (groups_ > 0) undo_.emplace_back();
+}
+
+}  // namespace tagsmith

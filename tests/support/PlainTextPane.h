@@ -1,0 +1,76 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "services/TextPane.h"
+
+namespace tagsmith {
+
+class Clipboard;
+
+/// A text pane without a widget, and the user who works in it.
+class PlainTextPane final : public TextPane {
+ public:
+  PlainTextPane() = default;
+  explicit PlainTextPane(Clipboard& clipboard) : clipboard_(&clipboard) {}
+
+  // --- The user ---
+
+  /// Types a text key by key: a line end is the Enter key, "\b" Backspace.
+  void Type(std::string_view text);
+  /// Presses keys as `Keyboard::SendKeys` spells them: "^(z)", "^(x)", "^(c)" and "^(v)", anything
+  /// else is typed. The clipboard's keys need the clipboard.
+  void PressKeys(std::string_view keys);
+
+  // --- The pane ---
+
+  void SetListener(TextPaneListener* listener) override { listener_ = listener; }
+  std::string Text() const override { return text_; }
+  void SetText(std::string_view text) override;
+  std::size_t Length() const override { return text_.size(); }
+  std::string TextRange(std::size_t start, std::size_t length) const override;
+  std::size_t SelStart() const override { return selection_.start; }
+  std::size_t SelLength() const override { return selection_.length; }
+  void Select(std::size_t start, std::size_t length) override;
+  void ReplaceSelection(std::string_view text) override;
+  std::size_t LineFromPosition(std::size_t position) const override;
+  FontSpec Font() const override { return font_; }
+  void SetFont(const FontSpec& font) override { font_ = font; }
+  void BeginUndoGroup() override;
+  void EndUndoGroup() override;
+  void Undo() override { TryUndo(); }
+  void EmptyUndoHistory() override;
+
+ private:
+  struct Span {
+    std::size_t start = 0;
+    std::size_t length = 0;
+  };
+  struct Edit {
+    std::size_t start;
+    std::string removed;
+    std::string inserted;
+  };
+  using Step = std::vector<Edit>;
+
+  Span Snap(std::size_t start, std::size_t length) const;
+  void Replace(Span span, std::string_view text);
+  bool TryUndo();
+  void PressKey(int keyAscii, std::string_view text);
+  void UserReplace(Span span, std::string_view text);
+  void Press(char controlKey);
+  void TellChange();
+
+  std::string text_;
+  Span selection_;
+  FontSpec font_;
+  std::string lineEnd_ = "\r\n";
+  std::vector<Step> undo_;
+  int groups_ = 0;
+  TextPaneListener* listener_ = nullptr;
+  Clipboard* clipboard_ = nullptr;
+};
+
+}  // namespace tagsmith

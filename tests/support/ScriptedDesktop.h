@@ -1,0 +1,158 @@
+#pragma once
+
+#include <any>
+#include <deque>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "services/Calendar.h"
+#include "services/Clipboard.h"
+#include "services/Dialogs.h"
+#include "services/EventQueue.h"
+#include "services/Form.h"
+#include "services/Keyboard.h"
+#include "services/Pictures.h"
+#include "services/Platform.h"
+#include "services/SettingsStore.h"
+#include "services/WindowSystem.h"
+#include "support/MemoryFiles.h"
+
+namespace tagsmith {
+
+/// The clipboard, with a switch that makes it impossible to open.
+class MemoryClipboard : public Clipboard {
+ public:
+  std::string text;
+  bool broken = false;
+  /// The texts that were set, in order.
+  std::vector<std::string> history;
+
+  std::string GetText() const override;
+  void SetText(std::string_view newText) override;
+  void Clear() override;
+
+ private:
+  void CheckOpen() const;
+};
+
+/// The settings, by "Section/Key".
+class MemorySettings : public SettingsStore {
+ public:
+  std::map<std::string, std::string, std::less<>> values;
+
+  std::string GetSetting(std::string_view application, std::string_view section,
+                         std::string_view key, std::string_view fallback) const override;
+  void SaveSetting(std::string_view application, std::string_view section, std::string_view key,
+                   std::string_view value) override;
+};
+
+/// A clock that stands still, and date forms that name themselves.
+class FixedCalendar : public Calendar {
+ public:
+  LocalTime now{2003, 9, 4, 15, 6, 7};
+
+  LocalTime Now() const override { return now; }
+  std::string LongDate(const LocalTime& time) const override;
+  std::string MediumDate(const LocalTime& time) const override;
+  std::string ShortDate(const LocalTime& time) const override;
+  std::string GeneralDate(const LocalTime& time) const override;
+};
+
+/// A desktop without a screen. The test lays down the answers to the questions that will be asked,
+/// in their order; a question that was not expected, and an answer that was not used, fail the
+/// test. Modal forms are questions too: their answer is a function that acts as the user.
+class ScriptedDesktop : private WindowSystem,
+                        private Dialogs,
+                        private Keyboard,
+                        private EventQueue,
+                        private PictureLoader {
+ public:
+  ScriptedDesktop();
+  ~ScriptedDesktop() override;
+  ScriptedDesktop(const ScriptedDesktop&) = delete;
+  ScriptedDesktop& operator=(const ScriptedDesktop&) = delete;
+
+  MemoryFiles files;
+  MemorySettings settings;
+  MemoryClipboard clipboard;
+  FixedCalendar calendar;
+  /// The program's own folder is "c:\tagsmith"; the command tail is empty. Both may be rewritten
+  /// before the application starts.
+  Platform platform;
+
+  // --- Answers ---
+
+  void ExpectMsgBox(std::string_view prompt, int flags, std::string_view title, int answer = kOk);
+  void ExpectInputBox(std::string_view prompt, std::string_view title, std::string_view initial,
+                      std::string_view answer);
+  /// An empty optional is Cancel.
+  void ExpectOpenFile(std::optional<std::string> path);
+  void ExpectSaveFile(std::optional<std::string> path);
+  void ExpectColour(std::optional<Colour> colour);
+  void ExpectFont(std::optional<FontSpec> font);
+  /// The form `T` will be shown modally: `act` is the user, and has to close it.
+  template <class T>
+  void OnModal(std::function<void(T&)> act) {
+    Expect("a modal form", std::function<void(Form&)>([act = std::move(act)](Form& form) {
+             auto* expected = dynamic_cast<T*>(&form);
+             expected != nullptr ? act(*expected) : NotExpected("the modal form " + form.Name());
+           }));
+  }
+  /// All answers laid down so far have been used; fails the test otherwise. Runs at the end, too.
+  void ExpectNothingLeft();
+
+  /// What the last file dialog was asked for.
+  FileDialogRequest lastFileRequest;
+
+  // --- Other things that the test lays down or looks up ---
+
+  /// A picture file of that size, in pixels.
+  void AddPicture(std::string_view path, int width, int height);
+  /// What happens when a long command yields to the event queue.
+  std::function<void()> onDoEvents;
+  /// What the windows were told, in order: "Show frmMain", "RepaintNow frmSplash", ...
+  std::vector<std::string> windowLog;
+  /// Keys sent, in order.
+  std::vector<std::string> sentKeys;
+
+ private:
+  class ScriptedFormView;
+
+  struct Step {
+    std::string question;
+    std::any answer;
+  };
+
+  static void NotExpected(const std::string& question);
+  void Expect(std::string question, std::any answer);
+  /// The answer to `question` if it is the next one expected; else an empty one, and the test
+  /// fails.
+  std::any Ask(const std::string& question);
+  template <class T>
+  T Answer(const std::string& question, T fallback);
+  void RunModal(Form& form);
+
+  std::unique_ptr<FormView> MakeFormView(Form& form) override;
+  std::unique_ptr<TextPane> MakeTextPane() override;
+  int MsgBox(Form& owner, std::string_view prompt, int flags, std::string_view title) override;
+  std::string InputBox(Form& owner, std::string_view prompt, std::string_view title,
+                       std::string_view initial) override;
+  std::optional<std::string> OpenFile(Form& owner, const FileDialogRequest& request) override;
+  std::optional<std::string> SaveFile(Form& owner, const FileDialogRequest& request) override;
+  std::optional<Colour> PickColour(Form& owner, Colour start) override;
+  std::optional<FontSpec> PickFont(Form& owner, const FontSpec& start) override;
+  void SendKeys(std::string_view keys) override;
+  void DoEvents() override;
+  std::shared_ptr<const Picture> LoadPicture(std::string_view path) override;
+
+  std::deque<Step> steps_;
+  std::map<std::string, std::pair<int, int>, std::less<>> pictures_;
+};
+
+}  // namespace tagsmith
