@@ -1,0 +1,237 @@
+#include "services/desktop/system/QtDialogs.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFontDatabase>
+#include <QFontDialog>
+#include <QFontInfo>
+#include <QMessageBox>
+#include <utility>
+
+#include "services/Platform.h"
+#include "services/desktop/system/FileFilters.h"
+#include "services/desktop/system/InputDialog.h"
+#include "services/desktop/system/ModalDialog.h"
+#include "services/desktop/system/TextConversion.h"
+
+namespace tagsmith {
+namespace {
+
+constexpr int kButtonMask = 0x0F;
+constexpr int kIconMask = 0xF0;
+
+// A longer prompt would push the buttons off the screen.
+constexpr qsizetype kMostLines = 25;
+constexpr qsizetype kMostCharacters = 2500;
+
+QString TitleOf(std::string_view title) {
+  return title.empty() ? QString::fromLatin1(kApplicationTitle) : ToQString(title);
+}
+
+// --- Message box ---
+
+QMessageBox::StandardButtons ButtonsOf(int flags) {
+  switch (flags & kButtonMask) {
+    case kYesNoCancel:
+      return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case kYesNo:
+      return QMessageBox::Yes | QMessageBox::No;
+    default:
+      return QMessageBox::Ok;
+  }
+}
+
+QMessageBox::Icon IconOf(int flags) {
+  switch (flags & kIconMask) {
+    case kQuestionIcon:
+      return QMessageBox::Question;
+    case kInformationIcon:
+      return QMessageBox::Information;
+    default:
+      return QMessageBox::NoIcon;
+  }
+}
+
+// The answer that closing the box stands for.
+QMessageBox::StandardButton ClosingButton(int flags) {
+  switch (flags & kButtonMask) {
+    case kYesNoCancel:
+      return QMessageBox::Cancel;
+    case kYesNo:
+      return QMessageBox::No;
+    default:
+      return QMessageBox::Ok;
+  }
+}
+
+QMessageBox::StandardButton FirstButton(int flags) {
+  return (flags & kButtonMask) == kOkOnly ? QMessageBox::Ok : QMessageBox::Yes;
+}
+
+int AnswerOf(int button) {
+  switch (button) {
+    case QMessageBox::Yes:
+      return kYes;
+    case QMessageBox::No:
+      return kNo;
+    case QMessageBox::Cancel:
+      return kCancel;
+    default:
+      return kOk;
+  }
+}
+
+QString NormalLineBreaks(QString text) {
+  return text.replace(QLatin1String("\r\n"), QLatin1String("\n"))
+      .replace(QLatin1Char('\r'), QLatin1Char('\n'));
+}
+
+void SetPrompt(QMessageBox& box, std::string_view prompt) {
+  const QString text = NormalLineBreaks(ToQString(prompt));
+  const QStringList lines = text.split(QLatin1Char('\n'));
+  box.setTextFormat(Qt::PlainText);
+  if (lines.size() <= kMostLines && text.size() <= kMostCharacters) return box.setText(text);
+  box.setText(lines.mid(0, kMostLines).join(QLatin1Char('\n')).left(kMostCharacters) +
+              QStringLiteral("\n\u2026"));
+  box.setDetailedText(text);
+}
+
+// --- Colours and fonts ---
+
+QColor ToQColor(Colour colour) {
+  return {colour & 0xFF, (colour >> 8) & 0xFF, (colour >> 16) & 0xFF};
+}
+
+Colour FromQColor(const QColor& colour) {
+  return colour.red() | (colour.green() << 8) | (colour.blue() << 16);
+}
+
+QFont ToQFont(const FontSpec& spec) {
+  QFont font(ToQString(spec.name));
+  if (spec.size > 0) font.setPointSizeF(spec.size);
+  font.setBold(spec.bold);
+  font.setItalic(spec.italic);
+  font.setUnderline(spec.underline);
+  font.setStrikeOut(spec.strikeThru);
+  return font;
+}
+
+// The dialog finds its way only by a family that is installed and the name of one of its styles;
+// without them it takes the first style in its list.
+QFont AsInstalled(QFont font) {
+  const QFontInfo info(font);
+  if (!QFontDatabase::hasFamily(font.family())) font.setFamily(info.family());
+  font.setStyleName(QFontDatabase::styleString(info));
+  return font;
+}
+
+// The dialog deals in whole points: a broken size comes back rounded when it was left alone.
+FontSpec FromQFont(const QFont& chosen, const FontSpec& start) {
+  const bool sizeLeftAlone = chosen.pointSize() == ToQFont(start).pointSize();
+  return {FromQString(chosen.family()),
+          sizeLeftAlone ? start.size : chosen.pointSizeF(),
+          chosen.bold(),
+          chosen.italic(),
+          chosen.underline(),
+          chosen.strikeOut()};
+}
+
+// --- Files ---
+
+// Some native dialogs have no title of their own.
+QString FileTitleOf(const FileDialogRequest& request, bool saving) {
+  if (!request.title.empty()) return ToQString(request.title);
+  return saving ? QStringLiteral("Save As") : QStringLiteral("Open");
+}
+
+// A name chosen earlier is offered again only where it lies: in another directory it would name
+// another file.
+void SetStart(QFileDialog& dialog, const QString& directory, const QString& fileName) {
+  const QFileInfo file(fileName);
+  const bool isBare = file.fileName() == fileName;
+  const QString start = directory.isEmpty() && !isBare ? file.path() : directory;
+  if (!start.isEmpty() && QDir(start).exists()) dialog.setDirectory(start);
+  if (!fileName.isEmpty() && (isBare || QDir(start) == QDir(file.path()))) {
+    dialog.selectFile(file.fileName());
+  }
+}
+
+}  // namespace
+
+QtDialogs::QtDialogs(WindowOf windowOf, PathMap toHost, PathMap toSystem)
+    : windowOf_(std::move(windowOf)), toHost_(std::move(toHost)), toSystem_(std::move(toSystem)) {}
+
+// A form whose window is not on the screen asks from above the active one.
+QWidget* QtDialogs::ParentFor(Form& owner) const {
+  QWidget* window = windowOf_(owner);
+  return window != nullptr && window->isVisible() ? window : QApplication::activeWindow();
+}
+
+int QtDialogs::MsgBox(Form& owner, std::string_view prompt, int flags, std::string_view title) {
+  ModalDialog box(new QMessageBox(ParentFor(owner)));
+  box->setWindowTitle(TitleOf(title));
+  box->setIcon(IconOf(flags));
+  SetPrompt(*box, prompt);
+  box->setStandardButtons(ButtonsOf(flags));
+  box->setDefaultButton(FirstButton(flags));
+  box->setEscapeButton(ClosingButton(flags));
+  const int button = box.Run();
+  return AnswerOf(button == 0 ? ClosingButton(flags) : button);
+}
+
+std::string QtDialogs::InputBox(Form& owner, std::string_view prompt, std::string_view title,
+                                std::string_view initial) {
+  ModalDialog dialog(
+      new InputDialog(ParentFor(owner), NormalLineBreaks(ToQString(prompt)), ToQString(initial)));
+  dialog->setWindowTitle(TitleOf(title));
+  return dialog.Run() == QDialog::Accepted ? FromQString(dialog->Text()) : std::string();
+}
+
+std::optional<std::string> QtDialogs::OpenFile(Form& owner, const FileDialogRequest& request) {
+  return AskForFile(owner, request, false);
+}
+
+std::optional<std::string> QtDialogs::SaveFile(Form& owner, const FileDialogRequest& request) {
+  return AskForFile(owner, request, true);
+}
+
+std::optional<std::string> QtDialogs::AskForFile(Form& owner, const FileDialogRequest& request,
+                                                 bool saving) {
+  ModalDialog dialog(new QFileDialog(ParentFor(owner)));
+  dialog->setOption(QFileDialog::DontConfirmOverwrite);
+  dialog->setOption(QFileDialog::HideNameFilterDetails);
+  dialog->setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialog->setFileMode(saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  dialog->setWindowTitle(FileTitleOf(request, saving));
+  if (saving) dialog->setDefaultSuffix(ToQString(request.defaultExtension));
+  dialog->setNameFilters(NameFilters(request.filter));
+  SetStart(*dialog, HostPath(request.initialDirectory), HostPath(request.fileName));
+  if (dialog.Run() != QDialog::Accepted) return std::nullopt;
+  // Empty for a place that the desktop shows but that no path leads to.
+  const QString chosen = dialog->selectedFiles().value(0);
+  if (chosen.isEmpty()) return std::nullopt;
+  return toSystem_(FromQString(chosen));
+}
+
+QString QtDialogs::HostPath(std::string_view path) const {
+  return path.empty() ? QString() : ToQString(toHost_(path));
+}
+
+std::optional<Colour> QtDialogs::PickColour(Form& owner, Colour start) {
+  ModalDialog dialog(new QColorDialog(ToQColor(start), ParentFor(owner)));
+  if (dialog.Run() != QDialog::Accepted) return std::nullopt;
+  return FromQColor(dialog->selectedColor());
+}
+
+std::optional<FontSpec> QtDialogs::PickFont(Form& owner, const FontSpec& start) {
+  ModalDialog dialog(new QFontDialog(AsInstalled(ToQFont(start)), ParentFor(owner)));
+  // Native ones know neither underline nor strike-out.
+  dialog->setOption(QFontDialog::DontUseNativeDialog);
+  if (dialog.Run() != QDialog::Accepted) return std::nullopt;
+  return FromQFont(dialog->selectedFont(), start);
+}
+
+}  // namespace tagsmith

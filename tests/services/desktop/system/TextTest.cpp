@@ -1,0 +1,76 @@
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QObject>
+#include <string>
+#include <vector>
+
+#include "services/desktop/system/QtClipboard.h"
+#include "services/desktop/system/QtEventQueue.h"
+#include "services/desktop/system/TextConversion.h"
+
+namespace tagsmith {
+namespace {
+
+using namespace std::string_literals;
+
+const std::vector<std::string> kDelicateTexts = {
+    ""s,
+    "\xEF\xBB\xBF<HTML>"s,             // a byte order mark
+    "\xEF\xBB\xBF\xEF\xBB\xBF"s,       // two
+    "a\0b\0"s,                         // NUL inside and last
+    "one\r\ntwo\nthree\rfour\r\n"s,    // every line end
+    "\xC2\xA0\xE2\x80\xA8\xC3\xA9"s,   // no-break space, line separator, e with acute
+    "\xF0\x9F\x98\x80\xEF\xBF\xBE"s};  // outside the first plane; a non-character
+
+TEST(Text, ComesBackByteForByteFromQtAndFromTheClipboard) {
+  QtClipboard clipboard;
+  for (const std::string& text : kDelicateTexts) {
+    EXPECT_EQ(FromQString(ToQString(text)), text);
+    clipboard.SetText(text);
+    EXPECT_EQ(clipboard.GetText(), text);
+  }
+}
+
+TEST(Text, OfTheClipboardIsEmptyWithoutTextAndAfterClear) {
+  QtClipboard clipboard;
+  clipboard.SetText("text");
+  clipboard.Clear();
+  EXPECT_EQ(clipboard.GetText(), "");
+
+  auto* picture = new QMimeData;
+  picture->setData("image/png", "bytes");
+  QGuiApplication::clipboard()->setMimeData(picture);
+  EXPECT_EQ(clipboard.GetText(), "");
+  clipboard.Clear();
+  const QMimeData* left = QGuiApplication::clipboard()->mimeData();
+  EXPECT_TRUE(left == nullptr || left->formats().isEmpty());
+}
+
+// Answers its event with another one and has that handled at once.
+class Restless final : public QObject {
+ public:
+  int handled = 0;
+
+  bool event(QEvent* /*event*/) override {
+    QCoreApplication::postEvent(this, new QEvent(QEvent::User));
+    if (++handled < 10000) events_.DoEvents();
+    return true;
+  }
+
+ private:
+  QtEventQueue events_;
+};
+
+TEST(EventQueue, SurvivesEndlessReentry) {
+  Restless restless;
+  QCoreApplication::postEvent(&restless, new QEvent(QEvent::User));
+  QtEventQueue().DoEvents();
+  EXPECT_GT(restless.handled, 1);
+  EXPECT_LT(restless.handled, 1000);
+}
+
+}  // namespace
+}  // namespace tagsmith
