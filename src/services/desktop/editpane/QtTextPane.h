@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QPoint>
+#include <QPointer>
+#include <functional>
+
+#include "services/TextPane.h"
+
+class QWidget;
+
+namespace tagsmith {
+
+class SourceView;
+
+/// The type of the data that a dragged control carries.
+constexpr const char* kControlMimeType = "application/x-tagsmith-control";
+
+/// A text pane on the screen. The pane owns its widget until something gives that a parent; the two
+/// may die in either order. Without its widget the pane holds the empty text and takes no other.
+class QtTextPane final : public TextPane {
+ public:
+  QtTextPane();
+  ~QtTextPane() override;
+  QtTextPane(const QtTextPane&) = delete;
+  QtTextPane& operator=(const QtTextPane&) = delete;
+
+  /// Null when the widget has died before the pane.
+  QWidget* Widget() const;
+  /// What is called, inside the drop event, when a control of the program (the type
+  /// `kControlMimeType`) is dropped on the pane, with the place in the widget.
+  void SetControlDropHandler(std::function<void(QPoint)> handler);
+
+  void SetListener(TextPaneListener* listener) override;
+  std::string Text() const override;
+  void SetText(std::string_view text) override;
+  std::size_t Length() const override;
+  std::string TextRange(std::size_t start, std::size_t length) const override;
+  std::size_t SelStart() const override;
+  std::size_t SelLength() const override;
+  void Select(std::size_t start, std::size_t length) override;
+  void ReplaceSelection(std::string_view text) override;
+  std::size_t LineFromPosition(std::size_t position) const override;
+  FontSpec Font() const override;
+  void SetFont(const FontSpec& font) override;
+  void BeginUndoGroup() override;
+  void EndUndoGroup() override;
+  void Undo() override;
+  void EmptyUndoHistory() override;
+
+ private:
+  QPointer<SourceView> view_;
+};
+
+}  // namespace tagsmith

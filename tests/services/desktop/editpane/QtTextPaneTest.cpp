@@ -1,0 +1,275 @@
+#include "services/desktop/editpane/QtTextPane.h"
+
+#include <Qsci/qsciscintilla.h>
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QTest>
+#include <memory>
+#include <optional>
+
+#include "services/desktop/editpane/PaneColours.h"
+
+namespace tagsmith {
+namespace {
+
+using Sci = QsciScintilla;
+
+class Listener : public TextPaneListener {
+ public:
+  explicit Listener(TextPane& pane) : pane_(pane) {}
+
+  void UserChanged() override {
+    ++changes;
+    // The event is done: the pane takes edits again.
+    if (!answer.empty()) pane_.ReplaceSelection(std::exchange(answer, {}));
+  }
+  bool UserKeyPress(int keyAscii) override {
+    keys.push_back(keyAscii);
+    if (keyAscii != taken) return true;
+    pane_.ReplaceSelection("     ");
+    return false;
+  }
+
+  int changes = 0;
+  std::vector<int> keys;
+  int taken = 0;
+  std::string answer;
+
+ private:
+  TextPane& pane_;
+};
+
+class QtTextPaneTest : public testing::Test {
+ protected:
+  QtTextPaneTest() {
+    pane_.SetListener(&listener_);
+    pane_.Widget()->resize(600, 400);
+    pane_.Widget()->show();
+  }
+
+  void Key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(pane_.Widget(), static_cast<Qt::Key>(key), modifiers);
+  }
+  Sci& View() { return *qobject_cast<Sci*>(pane_.Widget()); }
+  QWidget* Viewport() { return View().viewport(); }
+  QPoint PlaceOf(unsigned long position) {
+    const auto at = static_cast<long>(position);
+    return {static_cast<int>(View().SendScintilla(Sci::SCI_POINTXFROMPOSITION, 0UL, at)),
+            static_cast<int>(View().SendScintilla(Sci::SCI_POINTYFROMPOSITION, 0UL, at)) + 3};
+  }
+  void Drop(QMimeData& data, QPoint place) {
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(Viewport(), &enter);
+    QDropEvent event(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(Viewport(), &event);
+    EXPECT_TRUE(event.isAccepted());
+  }
+  // What one user event has left, told exactly once.
+  void ExpectChangedOnce(const std::string& text) {
+    EXPECT_EQ(pane_.Text(), text);
+    EXPECT_EQ(std::exchange(listener_.changes, 0), 1);
+  }
+
+  QtTextPane pane_;
+  Listener listener_{pane_};
+};
+
+TEST_F(QtTextPaneTest, TellsOnceOfEachUserEventAndNeverOfTheSystems) {
+  pane_.SetText("word two");
+  pane_.Select(0, 4);
+  EXPECT_EQ(listener_.changes, 0);
+
+  listener_.answer = "!";
+  Key(Qt::Key_A);  // replaces the selection: Scintilla sees two modifications
+  ExpectChangedOnce("a! two");
+  Key(Qt::Key_Delete);
+  ExpectChangedOnce("a!two");
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  ExpectChangedOnce("a! two");
+  Key(Qt::Key_Y, Qt::ControlModifier);
+  ExpectChangedOnce("a!two");
+  Key(Qt::Key_Y, Qt::ControlModifier);
+  Key(Qt::Key_Right);
+  Key(Qt::Key_Escape);
+  pane_.Undo();
+  EXPECT_EQ(listener_.changes, 0);
+  EXPECT_EQ(pane_.Text(), "a! two");
+}
+
+TEST_F(QtTextPaneTest, AsksAboutEachCharacterKey) {
+  pane_.SetText("ab");
+  pane_.Select(0, 1);
+  listener_.taken = '\t';
+  Key(Qt::Key_Tab);
+  EXPECT_EQ(pane_.Text(), "     b");
+  EXPECT_EQ(listener_.changes, 0);
+
+  QTest::sendKeyEvent(QTest::Click, pane_.Widget(), Qt::Key_unknown, QString::fromUtf8("\u20ac"),
+                      Qt::NoModifier);
+  QTest::sendKeyEvent(QTest::Click, pane_.Widget(), Qt::Key_unknown,
+                      QString::fromUtf8("\U0001F600"), Qt::NoModifier);
+  Key(Qt::Key_Backspace);
+  Key(Qt::Key_Return);
+  Key(Qt::Key_Left);
+  EXPECT_EQ(pane_.Text(), "     \u20ac\r\nb");
+  EXPECT_EQ(listener_.keys, (std::vector<int>{'\t', 0x20AC, 0x1F600, '\b', '\r'}));
+}
+
+TEST_F(QtTextPaneTest, LeavesTheMenusTheirKeys) {
+  pane_.SetText("one\r\ntwo");
+  for (const int key : {Qt::Key_N, Qt::Key_O, Qt::Key_S, Qt::Key_P, Qt::Key_D, Qt::Key_L, Qt::Key_U,
+                        Qt::Key_T, Qt::Key_1}) {
+    Key(key, Qt::ControlModifier);
+    Key(key, Qt::ControlModifier | Qt::ShiftModifier);
+    Key(key, Qt::AltModifier);
+  }
+  EXPECT_EQ(pane_.Text(), "one\r\ntwo");
+  EXPECT_TRUE(listener_.keys.empty());
+  QKeyEvent shortcut(QEvent::ShortcutOverride, Qt::Key_N, Qt::ControlModifier);
+  shortcut.ignore();
+  QApplication::sendEvent(pane_.Widget(), &shortcut);
+  EXPECT_FALSE(shortcut.isAccepted());
+}
+
+TEST_F(QtTextPaneTest, CutsAndPastesWithoutChangingAByte) {
+  using namespace std::string_literals;
+  const std::string text = "a\0b\r\nc\rd\ne\u00e9"s;
+  pane_.SetText(text);
+  Key(Qt::Key_A, Qt::ControlModifier);
+  Key(Qt::Key_X, Qt::ControlModifier);
+  ExpectChangedOnce("");
+  EXPECT_EQ(QApplication::clipboard()->text().toStdString(), text);
+  Key(Qt::Key_C, Qt::ControlModifier);  // nothing selected: the clipboard stays
+  Key(Qt::Key_V, Qt::ControlModifier);
+  ExpectChangedOnce(text);
+  Key(Qt::Key_A, Qt::ControlModifier);
+  Key(Qt::Key_Delete, Qt::ShiftModifier);
+  ExpectChangedOnce("");
+  Key(Qt::Key_Insert, Qt::ShiftModifier);
+  ExpectChangedOnce(text);
+  Key(Qt::Key_Z, Qt::ControlModifier);
+  ExpectChangedOnce("");
+}
+
+TEST_F(QtTextPaneTest, PastesThePrimarySelectionWhereItIsClicked) {
+  pane_.SetText("\u00e9 two");
+  if (!QApplication::clipboard()->supportsSelection()) GTEST_SKIP() << "no primary selection here";
+  QApplication::clipboard()->setText("x\r\ny\n", QClipboard::Selection);
+  QTest::mouseClick(Viewport(), Qt::MiddleButton, Qt::NoModifier, PlaceOf(3));
+  ExpectChangedOnce("\u00e9 x\r\ny\ntwo");
+}
+
+TEST_F(QtTextPaneTest, TakesDropsOfTextAndHandsOnDropsOfControls) {
+  pane_.SetText("\u00e9 two");
+  QMimeData text;
+  text.setText("x\ry\n");
+  Drop(text, PlaceOf(3));
+  ExpectChangedOnce("\u00e9 x\ry\ntwo");
+  EXPECT_EQ(pane_.TextRange(pane_.SelStart(), pane_.SelLength()), "x\ry\n");
+
+  std::optional<QPoint> dropped;
+  pane_.SetControlDropHandler([&](QPoint place) { dropped = place; });
+  QMimeData control;
+  control.setData(kControlMimeType, "lstFiles");
+  control.setText("not this");
+  Drop(control, {40, 30});
+  EXPECT_EQ(dropped, Viewport()->mapTo(pane_.Widget(), QPoint(40, 30)));
+  EXPECT_EQ(listener_.changes, 0);
+}
+
+TEST_F(QtTextPaneTest, KeepsACompositionOutOfTheSystemsEdits) {
+  pane_.SetText("abc");
+  pane_.Select(3, 0);
+  QInputMethodEvent compose(QStringLiteral("\u304b\u306a"), {});
+  QApplication::sendEvent(pane_.Widget(), &compose);
+  pane_.SetText("x");
+  QCoreApplication::processEvents();
+  EXPECT_EQ(pane_.Text(), "x");
+  EXPECT_EQ(listener_.changes, 1);  // of the composition's beginning
+
+  QApplication::sendEvent(pane_.Widget(), &compose);
+  listener_.changes = 0;
+  QInputMethodEvent commit;
+  commit.setCommitString(QStringLiteral("\u4eee"));
+  QApplication::sendEvent(pane_.Widget(), &commit);
+  ExpectChangedOnce("\u4eeex");
+}
+
+TEST_F(QtTextPaneTest, ShowsOneFontAndLegibleColoursLightOrDark) {
+  const FontSpec font{"DejaVu Sans Mono", 13.5, true, true, true, true};
+  pane_.SetFont(font);
+  pane_.SetText("<p>x</p>");
+  Key(Qt::Key_Z);
+  EXPECT_EQ(pane_.Font(), font);
+  for (const QRgb base : {0xFFFFFFU, 0x1E2227U, 0x808080U}) {
+    QPalette palette;
+    palette.setColor(QPalette::Base, QColor::fromRgb(base));
+    palette.setColor(QPalette::Text, base == 0x1E2227U ? Qt::white : Qt::black);
+    QApplication::setPalette(palette);
+    const auto ask = [&](unsigned message, unsigned long style) {
+      return View().SendScintilla(message, style, 0L);
+    };
+    for (unsigned long style = 0; style < 256; ++style) {
+      char name[64] = "";
+      View().SendScintilla(Sci::SCI_STYLEGETFONT, style, name);
+      ASSERT_STREQ(name, font.name.c_str()) << style;
+      ASSERT_EQ(ask(Sci::SCI_STYLEGETSIZEFRACTIONAL, style), 1350) << style;
+      ASSERT_TRUE(ask(Sci::SCI_STYLEGETBOLD, style) && ask(Sci::SCI_STYLEGETITALIC, style) &&
+                  ask(Sci::SCI_STYLEGETUNDERLINE, style) && !ask(Sci::SCI_STYLEGETEOLFILLED, style))
+          << style;
+      const auto colour = [&](unsigned message) {
+        const auto value = static_cast<int>(ask(message, style));  // red in the lowest byte
+        return QColor(value & 0xFF, (value >> 8) & 0xFF, (value >> 16) & 0xFF);
+      };
+      if (style == Sci::STYLE_CALLTIP) continue;  // never shown
+      ASSERT_GE(ContrastRatio(colour(Sci::SCI_STYLEGETFORE), colour(Sci::SCI_STYLEGETBACK)), 4.5)
+          << style << " on " << base;
+    }
+  }
+  QApplication::setPalette(QPalette());
+  EXPECT_EQ(View().SendScintilla(Sci::SCI_INDICATOREND, 8UL, 0L), 9L);  // all struck through
+}
+
+TEST_F(QtTextPaneTest, EditsTheEndOfALargePageAsExactlyAsItsStart) {
+  std::string page;
+  while (page.size() < 999'999) page += "<p>An ordinary line, \u00e9.</p>\r\n";
+  page.resize(999'999, ' ');
+  pane_.SetText(page);
+  pane_.Select(page.size(), 0);
+  Key(Qt::Key_A);
+  pane_.Select(page.size() + 1, 0);
+  pane_.ReplaceSelection("\r\n");
+  ExpectChangedOnce(page + "a\r\n");
+  const long width = View().marginWidth(0);
+  pane_.SetText("short");
+  EXPECT_LT(View().marginWidth(0), width);
+}
+
+TEST(QtTextPaneLife, OutlivesItsWidgetAndTheOtherWayRound) {
+  auto window = std::make_unique<QWidget>();
+  auto pane = std::make_unique<QtTextPane>();
+  pane->Widget()->setParent(window.get());
+  pane->SetText("text");
+  window.reset();
+  EXPECT_EQ(pane->Widget(), nullptr);
+  pane->Select(1, 1);
+  pane->ReplaceSelection("x");
+  EXPECT_EQ(pane->Text(), "");
+
+  window = std::make_unique<QWidget>();
+  pane = std::make_unique<QtTextPane>();
+  Listener listener(*pane);
+  pane->SetListener(&listener);
+  QWidget* widget = pane->Widget();
+  widget->setParent(window.get());
+  pane.reset();
+  QTest::keyClick(widget, Qt::Key_A);
+  EXPECT_EQ(listener.changes, 0);
+}
+
+}  // namespace
+}  // namespace tagsmith
