@@ -136,7 +136,7 @@ void GotoLastLine(benchmark::State& state) {
     form.txtEdit.SetSelStart(0);
     Program::Paint();
     state.ResumeTiming();
-    form.Editing().GotoLine(std::to_string(lines + 1));
+    form.Editing().GotoLine(static_cast<double>(lines + 1));
     Program::Paint();
   }
   state.SetComplexityN(state.range(0));
@@ -151,12 +151,12 @@ BENCHMARK(LoadAndPaint)
 BENCHMARK(TagAtTheEnd)
     ->Arg(kLargestDocument / 4)
     ->Arg(kLargestDocument / 2)
-    ->Arg(kLargestDocument - 100'000)
+    ->Arg(kLargestDocument)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(BareKeystrokeAtTheEnd)
     ->Arg(kLargestDocument / 4)
     ->Arg(kLargestDocument / 2)
-    ->Arg(kLargestDocument - 100'000)
+    ->Arg(kLargestDocument)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(BlockComment)
     ->Arg(5'000)

@@ -79,8 +79,10 @@ void EditingCommands::Apply(const TextEdit& edit) {
 }
 
 void EditingCommands::mnuGotoLine_Click() {
-  const double line =
-      Val(application_.InputBox(form_, "Enter Line Number To Jump To", "Jump To Line"));
+  GotoLine(Val(application_.InputBox(form_, "Enter Line Number To Jump To", "Jump To Line")));
+}
+
+void EditingCommands::GotoLine(double line) {
   RichTextBox& pane = form_.txtEdit;
   const std::size_t lastLine = pane.GetLineFromChar(pane.TextLength());
   if (line < 1 || line - 1 > static_cast<double>(lastLine)) return;

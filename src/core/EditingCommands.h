@@ -20,6 +20,9 @@ class EditingCommands {
   /// Applies the stored font, gives the pane the focus and puts the caret between the tags of the
   /// usual template's title.
   void RestoreFontInfo();
+  /// Puts the caret at the start of the line with this number, counted from 1. A number that is no
+  /// line's does nothing.
+  void GotoLine(double line);
 
  private:
   using BlockFunction = TextEdit (*)(std::string_view, std::size_t, std::size_t, std::string_view);

@@ -1,0 +1,20 @@
+#!/bin/sh
+# Measures the start of the program and the commands on large documents, each beside the bare
+# component, on a virtual display.
+set -eu
+root=$(cd "$(dirname "$0")/.." && pwd)
+. "$root/tools/setup.sh"
+
+install_packages $BUILD_PACKAGES libbenchmark-dev hyperfine time xvfb xauth
+build bench
+bin="$root/build/bench/bin"
+home=$(mktemp -d)
+trap 'rm -rf "$home"' EXIT
+export HOME="$home" XDG_CONFIG_HOME="$home" XDG_RUNTIME_DIR="$home"
+
+xvfb-run -a -s "-screen 0 1280x960x24" sh -eu -c "
+    hyperfine -N --warmup 5 --runs 40 '$bin/start_bare $bin/Template.html' '$bin/start_tagsmith'
+    for program in '$bin/start_bare $bin/Template.html' '$bin/start_tagsmith'; do
+        /usr/bin/time -f 'resident at first paint: %M KiB' \$program
+    done
+    '$bin/document_bench' --benchmark_min_time=0.5"
