@@ -1,7 +1,7 @@
 # Sourced by run.sh, test.sh and .ci/run with `root` set to the project's folder: the packages of
 # Debian 12 that Tagsmith stands on, and the build.
 
-BUILD_PACKAGES="cmake g++ ninja-build pkg-config libgl-dev qt6-base-dev libqt6svg6-dev
+BUILD_PACKAGES="cmake g++ ninja-build pkg-config libgl-dev qt6-base-dev qt6-svg-dev
     libqscintilla2-qt6-dev libgtest-dev"
 
 is_installed() {
