@@ -5,24 +5,31 @@
 #include "services/Form.h"
 
 namespace tagsmith {
+namespace {
+
+std::size_t CellCount(int rows, int columns) {
+  return static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns);
+}
+
+}  // namespace
 
 MSFlexGrid::MSFlexGrid(Form& form, std::string name, int rows, int columns)
     : Control(form, ControlKind::kMSFlexGrid, std::move(name)),
       rows_(rows),
       columns_(columns),
-      cells_(static_cast<std::size_t>(rows * columns)) {}
+      cells_(CellCount(rows, columns)) {}
 
 std::size_t MSFlexGrid::CellIndex(int row, int column) const {
-  return static_cast<std::size_t>(row * columns_ + column);
+  return CellCount(row, columns_) + static_cast<std::size_t>(column);
 }
 
 void MSFlexGrid::Resize(int rows, int columns) {
   rows = std::max(rows, 1);
   columns = std::max(columns, 1);
-  std::vector<std::string> cells(static_cast<std::size_t>(rows * columns));
+  std::vector<std::string> cells(CellCount(rows, columns));
   for (int row = 0; row < std::min(rows, rows_); ++row) {
     for (int column = 0; column < std::min(columns, columns_); ++column) {
-      cells[static_cast<std::size_t>(row * columns + column)] =
+      cells[CellCount(row, columns) + static_cast<std::size_t>(column)] =
           std::move(cells_[CellIndex(row, column)]);
     }
   }
