@@ -1,0 +1,97 @@
+#include "services/desktop/windows/ComboViews.h"
+
+#include <QAbstractItemView>
+#include <QLineEdit>
+#include <QStyle>
+#include <QWheelEvent>
+#include <algorithm>
+#include <utility>
+
+#include "services/desktop/system/TextConversion.h"
+
+namespace tagsmith {
+namespace {
+
+constexpr int kVisibleEntries = 20;
+constexpr int kLeastLetters = 8;
+
+}  // namespace
+
+PlainCombo::PlainCombo(EntrySource source, QWidget& parent)
+    : QComboBox(&parent), entries_(new EntryModel(std::move(source), this)) {
+  setInsertPolicy(NoInsert);
+  setMaxVisibleItems(kVisibleEntries);
+  setMinimumContentsLength(kLeastLetters);
+  setModel(entries_);
+}
+
+void PlainCombo::SetTyping(bool typing) {
+  setEditable(typing);
+  if (!typing) return;
+  setCompleter(nullptr);
+  // It would choose the entry whose text has been typed.
+  disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
+}
+
+void PlainCombo::showPopup() {
+  QAbstractItemView& list = *view();
+  list.setTextElideMode(Qt::ElideNone);
+  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &list);
+  list.setMinimumWidth(std::max(width(), list.sizeHintForColumn(0) + bar));
+  QComboBox::showPopup();
+}
+
+void PlainCombo::wheelEvent(QWheelEvent* event) { event->ignore(); }
+
+ComboBoxView::ComboBoxView(ComboBox& control, ViewHost& host, QWidget& parent)
+    : ViewOf(control, host),
+      combo_(new PlainCombo({.count = [&control] { return control.ListCount(); },
+                             .text = [&control](int row) { return ToQString(control.List(row)); }},
+                            parent)) {
+  combo_->SetTyping(control.Style() == ComboStyle::kDropDownCombo);
+  Update(Property::kSelection);
+  Adopt(combo_);
+  combo_->setAccessibleDescription(
+      control.ToolTipText().empty() ? combo_->objectName() : ToQString(control.ToolTipText()));
+  connect(combo_, &QComboBox::activated, this,
+          [this](int index) { Host().Act([this, index] { model_.Select(index); }); });
+  if (combo_->lineEdit() == nullptr) return;
+  connect(combo_->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
+    Host().Act([this, &text] { model_.UserEdit(FromQString(text)); });
+  });
+}
+
+ComboBoxView::~ComboBoxView() {
+  if (Widget() != nullptr) combo_->Entries().Forget();
+}
+
+void ComboBoxView::Update(Property property) {
+  if (property == Property::kItems) combo_->Entries().Reset();
+  if (combo_->currentIndex() != model_.ListIndex()) combo_->setCurrentIndex(model_.ListIndex());
+  if (combo_->lineEdit() == nullptr) return;
+  const QString text = ToQString(model_.Text());
+  if (combo_->currentText() != text) combo_->setEditText(text);
+}
+
+DriveListView::DriveListView(DriveListBox& control, ViewHost& host, QWidget& parent)
+    : ViewOf(control, host),
+      combo_(new PlainCombo({.count = [&control] { return control.ListCount(); },
+                             .text = [&control](int row) { return ToQString(control.List(row)); }},
+                            parent)) {
+  Update(Property::kSelection);
+  Adopt(combo_);
+  combo_->setAccessibleDescription(QStringLiteral("Drive"));
+  connect(combo_, &QComboBox::activated, this,
+          [this](int index) { Host().Act([this, index] { model_.Select(index); }); });
+}
+
+DriveListView::~DriveListView() {
+  if (Widget() != nullptr) combo_->Entries().Forget();
+}
+
+void DriveListView::Update(Property property) {
+  if (property == Property::kItems) combo_->Entries().Reset();
+  combo_->setCurrentIndex(model_.ListIndex());
+}
+
+}  // namespace tagsmith

@@ -1,0 +1,383 @@
+#include "services/desktop/windows/FormWindow.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLayout>
+#include <QStyle>
+#include <QTimer>
+#include <QWindow>
+#include <algorithm>
+#include <utility>
+
+#include "services/Buttons.h"
+#include "services/Dialogs.h"
+#include "services/Menu.h"
+#include "services/Platform.h"
+#include "services/SSTab.h"
+#include "services/desktop/system/Icons.h"
+#include "services/desktop/system/TextConversion.h"
+#include "services/desktop/windows/ArrangementLayout.h"
+#include "services/desktop/windows/ViewFactory.h"
+#include "services/desktop/windows/WindowShape.h"
+
+namespace tagsmith {
+namespace {
+
+QWidget* VisibleWindowOf(const Form* form) {
+  auto* view = form != nullptr ? static_cast<FormWindow*>(form->View()) : nullptr;
+  return view != nullptr && view->Window().isVisible() ? &view->Window() : nullptr;
+}
+
+bool AnyFormIsOnScreen() {
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  return std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
+    return window->isVisible() && dynamic_cast<const FormWidget*>(window) != nullptr;
+  });
+}
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form)
+    : form_(form),
+      scale_(TwipsScale::ForFont(QApplication::font())),
+      window_(new FormWidget(Events())) {
+  window_->setWindowFlags(FlagsFor(form, /*modal=*/false));
+  window_->setObjectName(ToQString(form.Name()));
+  window_->setWindowTitle(ToQString(form.Caption()));
+  window_->setWindowIcon(ApplicationIcon());
+  ShowPointer(form.MousePointer());
+  MakeMenus();
+  MakeViews();
+}
+
+FormWindow::~FormWindow() {
+  ShowPointer(kDefaultPointer);
+  window_->Forget();
+  views_.clear();
+  menus_.clear();
+  window_->hide();
+  window_->deleteLater();
+}
+
+WindowEvents FormWindow::Events() {
+  return {
+      .activated = [this] { Act([this] { form_.UserActivate(); }); },
+      .minimized = [this](bool minimized) { form_.UserMinimize(minimized); },
+      .closeWanted = [this] { Act([this] { form_.UserClose(); }); },
+      .escapePressed =
+          [this] {
+            if (form_.Border() == BorderStyle::kSizable) return;
+            Act([this] { form_.UserClose(); });
+          },
+      .enterPressed =
+          [this] {
+            CommandButton* button = form_.DefaultButton();
+            if (button != nullptr && form_.IsVisible()) Act([button] { button->Click(); });
+          },
+      .clientResized = [this](QSize size) { ClientResized(size); },
+  };
+}
+
+// --- The views ---
+
+void FormWindow::MakeMenus() {
+  ViewHost& host = *this;
+  for (Menu* menu : form_.Menus()) {
+    menus_.push_back(std::make_unique<MenuView>(*menu, host, window_->MenuBar()));
+  }
+}
+
+void FormWindow::MakeViews() {
+  QWidget& client = window_->Client();
+  if (HasLayout()) {
+    ArrangementLayout(scale_, [this](Control& control, QWidget& parent) {
+      return MakeView(control, parent);
+    }).Realise(*form_.GetArrangement(), client);
+  } else {
+    MakeChildren(nullptr, 0, client);
+  }
+  LinkLabels();
+  SetTabOrder();
+}
+
+WidgetView* FormWindow::MakeView(Control& control, QWidget& parent) {
+  std::unique_ptr<WidgetView> made = MakeControlView(control, *this, parent);
+  if (made == nullptr) return nullptr;
+  WidgetView* view = made.get();
+  views_.push_back(std::move(made));
+  if (control.Kind() == ControlKind::kStatusBar) statusBar_ = view;
+  if (control.Kind() == ControlKind::kFrame || control.Kind() == ControlKind::kPictureBox) {
+    if (!HasLayout() || control.Kind() == ControlKind::kPictureBox) {
+      MakeChildren(&control, 0, *view->ChildParent(0));
+    }
+  }
+  if (control.Kind() == ControlKind::kSSTab) view->Changed(Property::kTab);
+  return view;
+}
+
+void FormWindow::MakeChildren(const Control* container, int page, QWidget& parent) {
+  std::vector<WidgetView*> behind;
+  const std::vector<Control*> controls = form_.Controls();
+  for (Control* control : controls) {
+    if (control->Container() != container || control->Page() != page) continue;
+    if (control->View() != nullptr) continue;
+    WidgetView* view = MakeView(*control, parent);
+    if (view == nullptr) continue;
+    view->StandByBounds();
+    if (shown_) view->Place();
+    if (StandsBehind(control->Kind())) behind.push_back(view);
+  }
+  // Texts and figures lie behind what takes input, the later ones in front.
+  std::for_each(behind.rbegin(), behind.rend(), [](WidgetView* view) { view->Widget()->lower(); });
+}
+
+void FormWindow::MakePage(const SSTab& tab, int page) {
+  auto* view = static_cast<WidgetView*>(tab.View());
+  if (view == nullptr || page < 0) return;
+  const std::size_t before = views_.size();
+  MakeChildren(&tab, page, *view->ChildParent(page));
+  if (views_.size() == before || !shown_) return;
+  LinkLabels();
+  SetTabOrder();
+}
+
+void FormWindow::LinkLabels() const {
+  std::vector<WidgetView*> views;
+  views.reserve(views_.size());
+  for (const auto& view : views_) views.push_back(view.get());
+  LinkLabelsToFields(views);
+}
+
+void FormWindow::SetTabOrder() const {
+  QWidget* before = nullptr;
+  const auto append = [&before](const WidgetView& view) {
+    QWidget* target = view.FocusTarget();
+    if (target->focusPolicy() == Qt::NoFocus) return;
+    if (before != nullptr) QWidget::setTabOrder(before, target);
+    before = target;
+  };
+  if (HasLayout()) {
+    for (const auto& view : views_) append(*view);
+    return;
+  }
+  for (const Control* control : form_.Controls()) {
+    if (control->Kind() == ControlKind::kMenu || control->View() == nullptr) continue;
+    append(*static_cast<WidgetView*>(control->View()));
+  }
+}
+
+void FormWindow::ControlsChanged() {
+  // The control is still being made, or is half gone.
+  QTimer::singleShot(0, this, [this] {
+    DropViewsOfGoneControls();
+    if (!HasLayout()) MakeChildren(nullptr, 0, window_->Client());
+    for (std::size_t i = 0; i < views_.size(); ++i) views_[i]->Changed(Property::kTab);
+    LinkLabels();
+    SetTabOrder();
+  });
+}
+
+void FormWindow::DropViewsOfGoneControls() {
+  const std::vector<Control*>& present = form_.Controls();
+  std::erase_if(views_, [this, &present](const std::unique_ptr<WidgetView>& view) {
+    if (std::find(present.begin(), present.end(), &view->Model()) != present.end()) return false;
+    if (view->Widget() != nullptr) view->Widget()->deleteLater();
+    if (statusBar_ == view.get()) statusBar_ = nullptr;
+    return true;
+  });
+}
+
+QButtonGroup& FormWindow::OptionGroup(const Control* container) {
+  std::unique_ptr<QButtonGroup>& group = optionGroups_[container];
+  if (!group) group = std::make_unique<QButtonGroup>();
+  return *group;
+}
+
+QRect FormWindow::AreaFor(const WidgetView& view) const {
+  const Control* container = view.Model().Container();
+  // Not the page's own rectangle: while hidden it lags behind.
+  if (container != nullptr) return static_cast<WidgetView*>(container->View())->Widget()->rect();
+  QRect area = window_->Client().rect();
+  if (statusBar_ != nullptr && statusBar_ != &view && statusBar_->Model().Visible()) {
+    area.setBottom(area.bottom() - statusBar_->Widget()->height());
+  }
+  return area;
+}
+
+// --- The user's actions ---
+
+void FormWindow::Act(const std::function<void()>& action) {
+  const FormPool::Busy busy(form_.GetPlatform().forms);
+  ++acting_;
+  try {
+    action();
+  } catch (const std::exception& error) {
+    form_.GetPlatform().dialogs.MsgBox(form_, error.what(), kOkOnly, kApplicationTitle);
+  }
+  if (--acting_ == 0 && focused_) PostFocus();
+}
+
+void FormWindow::UserFocused(WidgetView& view) {
+  focused_ = &view;
+  PostFocus();
+}
+
+void FormWindow::PostFocus() {
+  QTimer::singleShot(0, this, [this] { DeliverFocus(); });
+}
+
+void FormWindow::DeliverFocus() {
+  if (acting_ > 0 || !focused_) return;  // Act comes back to it when the event is done.
+  WidgetView* view = std::exchange(focused_, nullptr);
+  const QWidget* holder = window_->focusWidget();
+  QWidget* target = view->FocusTarget();
+  if (holder == nullptr || (holder != target && !target->isAncestorOf(holder))) return;
+  Act([view] { view->Model().UserFocus(); });
+}
+
+void FormWindow::DropFocus() { window_->Client().setFocus(Qt::OtherFocusReason); }
+
+// --- On and off the screen ---
+
+void FormWindow::PutOnScreen(const QWidget* above) {
+  if (!shown_) {
+    HasLayout() ? FitToArrangement() : FitToModel();
+    window_->layout()->activate();
+    PlaceViews();
+    Centre(*window_, above);
+    shown_ = true;
+  }
+  const bool isSplash = form_.Border() == BorderStyle::kNone;
+  window_->setAttribute(Qt::WA_ShowWithoutActivating, isSplash);
+  window_->isMinimized() ? window_->showNormal() : window_->show();
+  window_->raise();
+  if (!isSplash) window_->activateWindow();
+}
+
+void FormWindow::Show() { PutOnScreen(nullptr); }
+
+void FormWindow::RunModal(Form* owner) {
+  QWidget* above = VisibleWindowOf(owner);
+  if (above == nullptr || above == window_) above = QApplication::activeWindow();
+  if (above == window_) above = nullptr;
+  if (!window_->isVisible()) window_->setWindowFlags(FlagsFor(form_, /*modal=*/true));
+  window_->setWindowModality(Qt::ApplicationModal);
+  window_->winId();
+  window_->windowHandle()->setTransientParent(above != nullptr ? above->windowHandle() : nullptr);
+  modalLoop_ = std::make_unique<QEventLoop>();
+  PutOnScreen(above);
+  if (window_->isVisible()) modalLoop_->exec();
+  modalLoop_.reset();
+  window_->setWindowModality(Qt::NonModal);
+}
+
+void FormWindow::Close() {
+  window_->hide();
+  if (modalLoop_) modalLoop_->quit();
+  if (!AnyFormIsOnScreen()) QCoreApplication::quit();  // Nothing unless `exec` is running.
+}
+
+void FormWindow::BringToFront() {
+  window_->raise();
+  window_->activateWindow();
+}
+
+void FormWindow::RepaintNow() {
+  constexpr int kPatience = 250;  // Milliseconds for the desktop to put the window up.
+  QElapsedTimer clock;
+  clock.start();
+  const auto isUp = [this] {
+    return window_->windowHandle() != nullptr && window_->windowHandle()->isExposed();
+  };
+  while (window_->isVisible() && !isUp() && clock.elapsed() < kPatience) {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  }
+  window_->repaint();
+}
+
+void FormWindow::Changed(Property property) {
+  switch (property) {
+    case Property::kCaption:
+      window_->setWindowTitle(ToQString(form_.Caption()));
+      break;
+    case Property::kMousePointer:
+      ShowPointer(form_.MousePointer());
+      break;
+    case Property::kOnTop:
+      SetStaysOnTop(*window_, form_.IsOnTop());
+      break;
+    case Property::kGeometry:
+      if (!HasLayout() && !resizing_) FitToModel();
+      break;
+    default:
+      break;
+  }
+}
+
+void FormWindow::ShowPointer(int pointer) {
+  const bool hourglass = pointer == kHourglass;
+  if (hourglass == std::exchange(hourglass_, hourglass)) return;
+  hourglass ? QApplication::setOverrideCursor(Qt::WaitCursor)
+            : QApplication::restoreOverrideCursor();
+}
+
+// --- Size ---
+
+QSize FormWindow::ModelClientSize() const {
+  return scale_.ToPixels(form_.ScaleWidth(), form_.ScaleHeight());
+}
+
+void FormWindow::FitToArrangement() {
+  QLayout* layout = window_->Client().layout();
+  QSize wanted = layout->totalSizeHint();
+  const QSize room = RoomFor(*window_);
+  if (wanted.height() > room.height() || wanted.width() > room.width()) {
+    window_->MakeScrollable();
+    window_->Client().setMinimumSize(wanted);
+    const int bar = window_->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    wanted += QSize(bar, bar);
+  }
+  window_->setFixedSize(window_->SizeFor(wanted).boundedTo(room));
+}
+
+void FormWindow::FitToModel() {
+  if (window_->windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)) return;
+  const QSize size = window_->SizeFor(ModelClientSize()).boundedTo(RoomFor(*window_));
+  const bool isFixed = form_.Border() != BorderStyle::kSizable;
+  isFixed ? window_->setFixedSize(size) : window_->resize(size);
+}
+
+void FormWindow::ClientResized(QSize size) {
+  Act([this, size] {
+    if (size != ModelClientSize() && !window_->isMinimized()) {
+      resizing_ = true;
+      form_.UserResize(scale_.ToTwips(size.width()) + kFormExtraWidth,
+                       scale_.ToTwips(size.height()) + kFormExtraHeight);
+      resizing_ = false;
+      if (!HasLayout()) AnswerModel(size);
+    }
+    PlaceViews();
+  });
+}
+
+// The form may have taken another size than the one it was given. The window follows once; when the
+// window manager does not let it, the form keeps its size and is cut.
+void FormWindow::AnswerModel(QSize given) {
+  if (window_->windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)) return;
+  const QSize wanted = ModelClientSize().boundedTo(RoomFor(*window_));
+  const QSize least(wanted.width() > given.width() ? wanted.width() : 0,
+                    wanted.height() > given.height() ? wanted.height() : 0);
+  const QSize minimum = minimum_.expandedTo(least);
+  if (minimum == minimum_) return;
+  minimum_ = minimum;
+  QTimer::singleShot(0, this, [this] {
+    window_->setMinimumSize(window_->SizeFor(minimum_).boundedTo(RoomFor(*window_)));
+  });
+}
+
+void FormWindow::PlaceViews() {
+  if (statusBar_ != nullptr) statusBar_->Place();  // It takes its part of the area first.
+  for (std::size_t i = 0; i < views_.size(); ++i) views_[i]->Place();
+}
+
+}  // namespace tagsmith

@@ -1,0 +1,76 @@
+#include "services/desktop/windows/MenuView.h"
+
+#include <QKeySequence>
+#include <QMenuBar>
+
+#include "services/desktop/system/TextConversion.h"
+#include "services/desktop/windows/WidgetView.h"
+
+namespace tagsmith {
+
+MenuView::MenuView(Menu& menu, ViewHost& host, QMenuBar& bar)
+    : model_(menu), host_(host), action_(nullptr) {
+  QMenu* dropDown = bar.addMenu(QString());
+  action_ = dropDown->menuAction();
+  MakeEntries(*dropDown);
+  Start();
+}
+
+MenuView::MenuView(Menu& menu, ViewHost& host, QMenu& parent)
+    : model_(menu), host_(host), action_(nullptr) {
+  if (menu.Entries().empty()) {
+    action_ = parent.addAction(QString());
+    connect(action_, &QAction::triggered, this, [this] { Click(); });
+  } else {
+    QMenu* dropDown = parent.addMenu(QString());
+    action_ = dropDown->menuAction();
+    MakeEntries(*dropDown);
+  }
+  Start();
+}
+
+void MenuView::MakeEntries(QMenu& menu) {
+  for (Menu* entry : model_.Entries()) {
+    entries_.push_back(std::make_unique<MenuView>(*entry, host_, menu));
+  }
+  connect(&menu, &QMenu::aboutToShow, this, [this] { Click(); });
+}
+
+void MenuView::Start() {
+  action_->setObjectName(ObjectNameOf(model_));
+  action_->setMenuRole(QAction::NoRole);
+  if (!model_.Shortcut().empty()) {
+    action_->setShortcut(
+        QKeySequence::fromString(ToQString(model_.Shortcut()), QKeySequence::PortableText));
+    action_->setAutoRepeat(false);
+  }
+  Changed(Property::kCaption);
+  Changed(Property::kEnabled);
+  model_.AttachView(this);
+}
+
+QString MenuView::Text() const {
+  return model_.PlainCaption() ? WithoutAccessKey(model_.Caption()) : ToQString(model_.Caption());
+}
+
+void MenuView::Click() {
+  host_.Act([this] { model_.Click(); });
+}
+
+void MenuView::Changed(Property property) {
+  switch (property) {
+    case Property::kCaption:
+      action_->setSeparator(model_.IsSeparator());
+      action_->setText(model_.IsSeparator() ? QString() : Text());
+      break;
+    case Property::kEnabled:
+    case Property::kVisible:
+      action_->setEnabled(model_.Enabled());
+      action_->setVisible(model_.Visible());
+      break;
+    default:
+      break;
+  }
+}
+
+}  // namespace tagsmith

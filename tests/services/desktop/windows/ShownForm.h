@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QApplication>
+#include <QTest>
+#include <QWidget>
+#include <string>
+#include <vector>
+
+#include "services/Form.h"
+#include "services/Platform.h"
+#include "services/desktop/system/TextConversion.h"
+#include "services/desktop/windows/QtWindowSystem.h"
+#include "support/ScriptedDesktop.h"
+
+namespace tagsmith {
+
+/// Real windows; all else is scripted.
+struct Screen {
+  ScriptedDesktop desktop;
+  QtWindowSystem windows;
+  Platform platform{windows,
+                    desktop.platform.dialogs,
+                    desktop.platform.clipboard,
+                    desktop.platform.keyboard,
+                    desktop.platform.events,
+                    desktop.platform.files,
+                    desktop.platform.settings,
+                    desktop.platform.pictures,
+                    desktop.platform.calendar,
+                    "c:\\tagsmith",
+                    ""};
+};
+
+/// A form on the screen and the log of its events.
+class ShownForm : public Form {
+ public:
+  explicit ShownForm(Screen& screen) : Form(screen.platform, "frmProbe") {}
+
+  std::vector<std::string> log;
+
+  /// A handler that logs `text`.
+  std::function<void()> Log(const std::string& text) {
+    return [this, text] { log.push_back(text); };
+  }
+
+  void ShowAndWait() {
+    Show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&Window()));
+  }
+
+  QWidget& Window() { return *QtWindowSystem::WindowOf(*this); }
+
+  /// The widget of a control; null if it has none yet.
+  template <class T = QWidget>
+  T* Widget(const Control& control) {
+    QString name = ToQString(control.Name());
+    if (control.Index() != Control::kNoIndex) name += "_" + QString::number(control.Index());
+    return Window().findChild<T*>(name);
+  }
+
+  /// The log since the last call, once all that is queued has happened.
+  std::vector<std::string> TakeLog() {
+    QCoreApplication::processEvents();
+    return std::exchange(log, {});
+  }
+};
+
+using Strings = std::vector<std::string>;
+
+}  // namespace tagsmith
