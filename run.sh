@@ -6,7 +6,7 @@ root=$(cd "$(dirname "$0")" && pwd)
 . "$root/tools/setup.sh"
 
 start_on_a_virtual_display() {
-    install_packages xvfb imagemagick xdotool
+    install_packages xvfb xauth imagemagick xdotool
     shot="$root/build/screenshot.png"
     echo "There is no display. Tagsmith is started on a virtual one for a screenshot."
     TAGSMITH_PROGRAM="$program" TAGSMITH_SHOT="$shot" \
@@ -14,7 +14,7 @@ start_on_a_virtual_display() {
     echo "The screenshot is in $shot"
 }
 
-install_packages $BUILD_PACKAGES
+install_packages $BUILD_PACKAGES qt6-wayland
 build release tagsmith
 program="$root/build/release/bin/tagsmith"
 

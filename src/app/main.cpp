@@ -1,4 +1,6 @@
 #include <QApplication>
+#include <exception>
+#include <iostream>
 
 #include "app/Composition.h"
 #include "services/desktop/system/Appearance.h"
@@ -9,7 +11,12 @@ int main(int argc, char** argv) {
   QApplication application(toolkitArguments, argv);
   tagsmith::SetUpAppearance(application);
 
-  tagsmith::Composition composition(argc, argv);
-  composition.Start();
-  return QApplication::exec();
+  try {
+    tagsmith::Composition composition(argc, argv);
+    composition.Start();
+    return QApplication::exec();
+  } catch (const std::exception& error) {
+    std::cerr << "Tagsmith cannot start: " << error.what() << '\n';
+    return 1;
+  }
 }

@@ -23,7 +23,8 @@ std::string_view FlagText(bool flag) { return flag ? settings::kTrue : settings:
 // Points, with as many digits as it takes to read the same number back.
 std::string SizeText(double size) {
   std::array<char, 32> text{};
-  const auto end = std::to_chars(text.data(), text.data() + text.size(), size).ptr;
+  const auto end =
+      std::to_chars(text.data(), text.data() + text.size(), size, std::chars_format::fixed).ptr;
   return {text.data(), end};
 }
 

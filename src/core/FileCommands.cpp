@@ -67,7 +67,7 @@ bool FileCommands::LoadText(std::string_view path) {
       form_.txtEdit.EmptyUndoHistory();
       form_.SetDocumentEncoding(decoded.encoding);
     }
-  } catch (const Error&) {
+  } catch (const std::exception&) {
     Inform("Error Loading Text", kSorry);
     return false;
   }
@@ -99,7 +99,7 @@ void FileCommands::mnuFileOpen_Click() {
   if (!ConfirmLosingEdits(kOpeningPrompt)) return;
   try {
     Open();
-  } catch (const Error&) {  // A cancelled dialog, too, ends the command without a word.
+  } catch (const std::exception&) {  // A cancelled dialog, too, ends the command without a word.
   }
 }
 
@@ -110,8 +110,12 @@ void FileCommands::Open() {
   dialog.filter = application_.gFileFilter;
   if (!dialog.ShowOpen() || dialog.fileName.empty()) return;
   const std::string path = dialog.fileName;
-  if (LoadText(Trim(path))) form_.SetDocumentName(path);
-  form_.Recent().AddToRecentlyUsed(path);
+  if (LoadText(Trim(path))) {
+    form_.SetDocumentName(path);
+    form_.Recent().AddToRecentlyUsed(path);
+  } else {
+    form_.Recent().AddToRecentMenu(path);
+  }
   form_.Lists().SyncFileBoxes(path);
 }
 
@@ -127,7 +131,7 @@ bool FileCommands::TryWrite(std::string_view path) {
     const Hourglass hourglass(form_);
     Write(path);
     return true;
-  } catch (const Error&) {
+  } catch (const std::exception&) {
     return false;
   }
 }
@@ -152,7 +156,8 @@ void FileCommands::mnuFileSave_Click() {
 void FileCommands::mnuFileSaveAs_Click() {
   try {
     SaveAs();
-  } catch (const Error&) {  // A cancelled dialog and a file that cannot be written: not a word.
+  } catch (
+      const std::exception&) {  // A cancelled dialog and a file that cannot be written: not a word.
   }
 }
 
@@ -166,6 +171,7 @@ void FileCommands::SaveAs() {
   const Hourglass hourglass(form_);
   Write(path);
   form_.MyFileList.Refresh();
+  form_.Lists().ChangeToolTips();
   form_.SetDocumentName(path);
   form_.Recent().AddToRecentlyUsed(path);
   form_.ShowInCaption(Trim(path));
@@ -180,6 +186,7 @@ void FileCommands::mnuSaveAsUnix_Click() {
 void FileCommands::mnuFileClose_Click() {
   if (!form_.HasDocument()) {
     form_.txtEdit.SetText("");
+    form_.txtEdit.EmptyUndoHistory();
     form_.SetDocumentChanged(false);  // Where no document is, nothing is to be saved.
     return;
   }
@@ -187,6 +194,7 @@ void FileCommands::mnuFileClose_Click() {
   form_.txtEdit.SetText("");
   form_.txtEdit.EmptyUndoHistory();
   form_.SetDocumentName(kNoDocument);
+  form_.SetDocumentEncoding(TextEncoding::kUtf8);
   form_.SetDocumentChanged(false);
   // The next click into the pane is to start a new document.
   form_.ClearFocus();

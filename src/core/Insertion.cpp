@@ -15,20 +15,17 @@ class ClipboardLoan {
  public:
   ClipboardLoan(Clipboard& clipboard, std::string_view text) : clipboard_(clipboard) {
     try {
-      std::string kept = clipboard_.GetText();
+      kept_ = clipboard_.GetText();
       clipboard_.SetText(text);
-      kept_ = std::move(kept);
-    } catch (const Error&) {  // Nothing is lent then.
+      lent_ = true;
+    } catch (const Error&) {  // The text goes in without the clipboard then.
     }
   }
 
   ~ClipboardLoan() {
     if (!kept_) return;
-    try {
-      clipboard_.Clear();
-      if (!kept_->empty()) clipboard_.SetText(*kept_);
-    } catch (const std::exception&) {  // Nobody to tell: the text is in the pane.
-    }
+    Try([this] { clipboard_.Clear(); });
+    if (!kept_->empty()) Try([this] { clipboard_.SetText(*kept_); });
   }
 
   ClipboardLoan(const ClipboardLoan&) = delete;
@@ -37,15 +34,25 @@ class ClipboardLoan {
   /// What lies on the clipboard now; `text` itself where that cannot be had.
   std::string ReadBack(std::string_view text) const {
     try {
-      if (kept_) return clipboard_.GetText();
+      if (lent_) return clipboard_.GetText();
     } catch (const Error&) {  // Then without the clipboard.
     }
     return std::string(text);
   }
 
  private:
+  // Another program may hold the clipboard: the text is in the pane, and there is nobody to tell.
+  template <class Step>
+  static void Try(Step step) {
+    try {
+      step();
+    } catch (const std::exception&) {
+    }
+  }
+
   Clipboard& clipboard_;
   std::optional<std::string> kept_;
+  bool lent_ = false;
 };
 
 }  // namespace

@@ -38,7 +38,8 @@ void RecentFiles::RestoreRecentlyUsed() {
     if (!entries(i).Caption().empty()) opened.push_back(entries(i).Caption());
     entries(i).SetCaption(application_.GetSetting(settings::kRecentlyUsed, i));
   }
-  std::for_each(opened.rbegin(), opened.rend(), [this](const auto& path) { PushCaption(path); });
+  std::for_each(opened.rbegin(), opened.rend(),
+                [this](const auto& path) { AddToRecentMenu(path); });
 }
 
 void RecentFiles::SaveRecentlyUsed() {
@@ -48,14 +49,14 @@ void RecentFiles::SaveRecentlyUsed() {
   }
 }
 
-void RecentFiles::PushCaption(std::string_view path) {
+void RecentFiles::AddToRecentMenu(std::string_view path) {
   const auto& entries = form_.mnuRecentlyUsed;
   for (int i = entries.Count() - 1; i > 0; --i) entries(i).SetCaption(entries(i - 1).Caption());
   entries(0).SetCaption(path);
 }
 
 void RecentFiles::AddToRecentlyUsed(std::string_view path) {
-  PushCaption(path);
+  AddToRecentMenu(path);
   AddFileTab(path);
 }
 

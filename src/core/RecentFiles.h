@@ -22,6 +22,8 @@ class RecentFiles {
   void SaveRecentlyUsed();
   /// Puts a path on top of the Recent menu, once more if it is there already, and into the tabs.
   void AddToRecentlyUsed(std::string_view path);
+  /// Puts a path on top of the Recent menu alone: for a file that could not be loaded.
+  void AddToRecentMenu(std::string_view path);
   /// Selects the tab of the path, which loads its file if another was selected; a path without a
   /// tab gets the first one and pushes the others along.
   void AddFileTab(std::string_view path);
@@ -29,7 +31,6 @@ class RecentFiles {
  private:
   static constexpr int kTabCount = 5;
 
-  void PushCaption(std::string_view path);
   void ShowTabCaptions();
   void mnuRecentlyUsed_Click(int index);
   void MyTabFiles_Click(int previousTab);

@@ -36,7 +36,9 @@ bool IsPictureFile(std::string_view name) {
 std::string PixelText(Twips length) {
   std::array<char, 32> text{};
   const double pixels = static_cast<double>(length) / kTwipsPerPixel;
-  return {text.data(), std::to_chars(text.data(), text.data() + text.size(), pixels).ptr};
+  return {
+      text.data(),
+      std::to_chars(text.data(), text.data() + text.size(), pixels, std::chars_format::fixed).ptr};
 }
 
 std::string Attribute(std::string_view name, std::string_view value) {
@@ -103,6 +105,7 @@ void Sidebar::RefreshDriveLists() {
   form_.MyDrive.Refresh();
   form_.MyDirectory.Refresh();
   form_.MyFileList.Refresh();
+  ChangeToolTips();
 }
 
 void Sidebar::ChangeToolTips() {
@@ -136,9 +139,12 @@ void Sidebar::MyFileList_DblClick() {
   // A save on the way may move the lists.
   const std::string path = AddBackslash(form_.MyDirectory.Path()) + SelectedFile();
   if (!form_.ConfirmLosingEdits(kOpeningPrompt)) return;
-  const bool loaded = form_.LoadText(path);
-  if (loaded) form_.SetDocumentName(path);
-  form_.Recent().AddToRecentlyUsed(path);
+  if (form_.LoadText(path)) {
+    form_.SetDocumentName(path);
+    form_.Recent().AddToRecentlyUsed(path);
+  } else {
+    form_.Recent().AddToRecentMenu(path);
+  }
 }
 
 void Sidebar::MyFileList_Mouse(int dragAction) {

@@ -195,7 +195,10 @@ void frmMain::MarkUnchanged() {
 }
 
 void frmMain::txtEdit_Change() {
-  if (formLoaded_) MarkChanged();
+  if (!formLoaded_) return;
+  // What the user drops or pastes into a closed pane is a new document, not nobody's.
+  if (!HasDocument() && txtEdit.TextLength() > 0) SetDocumentName(kNewDocument);
+  MarkChanged();
 }
 
 void frmMain::ReplaceDocument(std::string_view text) {

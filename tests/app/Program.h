@@ -1,7 +1,10 @@
 #pragma once
 
 #include <QApplication>
+#include <QDialog>
+#include <QMessageBox>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -33,6 +36,30 @@ class UserFolder {
 
  private:
   QTemporaryDir folder_;
+};
+
+/// The user's answers while it lives: message boxes by their default button, what they said kept;
+/// all other dialogs by Cancel.
+class Answers {
+ public:
+  Answers() {
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] {
+      QWidget* dialog = QApplication::activeModalWidget();
+      if (auto* box = qobject_cast<QMessageBox*>(dialog)) {
+        texts_.push_back(box->text().toStdString());
+        box->accept();
+      } else if (auto* other = qobject_cast<QDialog*>(dialog)) {
+        other->reject();
+      }
+    });
+    timer_.start(20);
+  }
+
+  const std::vector<std::string>& Texts() const { return texts_; }
+
+ private:
+  QTimer timer_;
+  std::vector<std::string> texts_;
 };
 
 /// One run of the whole program in a real window, started with a command tail.

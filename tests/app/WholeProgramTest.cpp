@@ -2,39 +2,12 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-
-#include <QDialog>
-#include <QLabel>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTest>
-#include <QTimer>
+#include <unistd.h>
 
 #include "Program.h"
 
 namespace tagsmith {
 namespace {
-
-// Answers the message boxes that come up while it lives by their default button, and keeps what
-// they said.
-class MessageBoxes {
- public:
-  MessageBoxes() {
-    QObject::connect(&timer_, &QTimer::timeout, [this] {
-      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      if (box == nullptr) return;
-      texts_.push_back(box->text().toStdString());
-      box->accept();
-    });
-    timer_.start(20);
-  }
-
-  const std::vector<std::string>& Texts() const { return texts_; }
-
- private:
-  QTimer timer_;
-  std::vector<std::string> texts_;
-};
 
 TEST(WholeProgram, FindsEverythingAgainAfterARestart) {
   const UserFolder user;
@@ -73,10 +46,10 @@ TEST(WholeProgram, RefusesWhatIsNoDocument) {
       {"/dev/zero", "Error Loading Text"},
   };
   for (const auto& [argument, message] : cases) {
-    const MessageBoxes boxes;
+    const Answers answers;
     Program program(user, {argument});
-    ASSERT_EQ(boxes.Texts().size(), 1U) << argument;
-    EXPECT_EQ(boxes.Texts().front(), message) << argument;
+    ASSERT_EQ(answers.Texts().size(), 1U) << argument;
+    EXPECT_EQ(answers.Texts().front(), message) << argument;
     EXPECT_EQ(program.Form().DocumentName(), "Untitled.html") << argument;
     EXPECT_FALSE(program.Form().DocumentChanged()) << argument;
   }
@@ -94,6 +67,67 @@ TEST(WholeProgram, APictureOpensAsBytesAndSavesBackUnharmed) {
   Program program(user, {(user / "picture.png").string()});
   program.Form().mnuFileSave.Click();
   EXPECT_EQ(ReadBytes(user / "picture.png"), bytes + "\r\n");
+}
+
+TEST(WholeProgram, AFileOrFolderThatVanishes) {
+  const UserFolder user;
+  std::filesystem::create_directory(user / "site");
+  WriteBytes(user / "site/a.html", "a");
+  WriteBytes(user / "site/b.html", "b");
+  Program program(user, {(user / "site/a.html").string()});
+  frmMain& form = program.Form();
+  form.MyDirectory.SetPath(user.SystemPath("site"));
+  form.MyFileList.Select(1);
+  std::filesystem::remove(user / "site/b.html");
+  const Answers answers;
+
+  form.MyFileList.DoubleClick(1);
+  EXPECT_FALSE(form.LoadText(user.SystemPath("site")));
+  std::filesystem::remove_all(user / "site");
+  form.txtEdit.SetSelText("edit");
+  form.mnuFileSave.Click();  // The folder has gone: the message, then another place is asked for.
+  form.mnuRefreshDriveLists.Click();
+  form.mnuRecentlyUsed(1).Click();
+
+  const std::vector<std::string> expected = {
+      "Error Loading Text", "Error Loading Text",
+      "The file may be read-only, you may not have enough permissions, \n"
+      "or the disk is full or write-protected",
+      "The Specified File Cannot Be Found"};
+  EXPECT_EQ(answers.Texts(), expected);
+  EXPECT_TRUE(form.DocumentChanged());
+  EXPECT_EQ(form.txtEdit.Text(), "aedit");
+  EXPECT_EQ(form.MyDirectory.Path() + "\\", user.SystemPath(""));
+}
+
+// Root may read and write everything, so the program runs as nobody.
+TEST(WholeProgram, FilesAndSettingsThatTheUserMayNotTouch) {
+  const UserFolder user;
+  WriteBytes(user / "secret.html", "secret");
+  WriteBytes(user / "fixed.html", "fixed");
+  WriteBytes(user / "settings.json", "{}");
+  chmod((user / "secret.html").c_str(), 0);
+  chmod((user / "fixed.html").c_str(), 0444);
+  chmod((user / "settings.json").c_str(), 0444);
+  chmod((user / "").c_str(), 0555);
+  const bool wasRoot = geteuid() == 0;
+  ASSERT_TRUE(!wasRoot || seteuid(65534) == 0);
+  {
+    const Answers answers;
+    Program program(user, {(user / "fixed.html").string()});
+    frmMain& form = program.Form();
+    EXPECT_FALSE(form.LoadText(user.SystemPath("secret.html")));
+    form.txtEdit.SetSelText("edit");
+    form.mnuFileSave.Click();
+    EXPECT_EQ(answers.Texts().size(), 2U);
+    EXPECT_TRUE(form.DocumentChanged());
+    form.MarkUnchanged();
+    EXPECT_TRUE(form.Unload());
+  }
+  ASSERT_TRUE(!wasRoot || seteuid(0) == 0);
+  EXPECT_EQ(ReadBytes(user / "fixed.html"), "fixed");
+  EXPECT_EQ(ReadBytes(user / "settings.json"), "{}");
+  chmod((user / "").c_str(), 0755);
 }
 
 TEST(WholeProgram, DamagedSettingsAndAStoredFolderThatHasGone) {

@@ -190,6 +190,28 @@ TEST_F(Document, FailedSaveOffersAnotherPlace) {
   ExpectState("c:\\elsewhere.html", "üé a", false);
 }
 
+// A drop or a middle click reaches the pane before its focus does.
+TEST_F(Document, KeepsWhatTheUserPutsIntoAClosedPane) {
+  form.mnuFileClose.Click();
+  program.Pane().Type("dropp\xC3\xA9");
+  form.txtEdit.UserFocus();
+  ExpectState("Untitled.html", "dropp\xC3\xA9", true);
+}
+
+// The tab of a file that has gone must not load it a second time behind the user's back.
+TEST_F(Document, AsksOnceAboutAFileThatCannotBeOpened) {
+  Open("c:\\site\\a.html");
+  Open("c:\\site\\b.html");
+  form.MyTabFiles.Select(1);
+  desktop.files.SetFault("c:\\site\\b.html", MemoryFiles::Fault::kUnreadable);
+  EditAndExpectPrompt("Save Current Before Opening Another File?", kNo);
+  desktop.ExpectOpenFile("c:\\site\\b.html");
+  desktop.ExpectMsgBox("Error Loading Text", kInformationIcon, "Sorry...");
+  form.mnuFileOpen.Click();
+  EXPECT_EQ(form.DocumentName(), "c:\\site\\a.html");
+  EXPECT_TRUE(form.DocumentChanged());
+}
+
 TEST_F(Document, ClosesAndStartsAnewWhenThePaneGetsTheFocus) {
   Open("c:\\site\\a.html");
   EditAndExpectPrompt("Save Current File Before Closing?", kNo);
@@ -199,6 +221,7 @@ TEST_F(Document, ClosesAndStartsAnewWhenThePaneGetsTheFocus) {
   EXPECT_FALSE(form.txtEdit.HasFocus());
   program.Pane().Undo();
   EXPECT_EQ(form.txtEdit.Text(), "");
+  EXPECT_EQ(form.DocumentEncoding(), TextEncoding::kUtf8);
 
   form.mnuFileClose.Click();
   desktop.ExpectMsgBox("There Is No Document To Save", kInformationIcon, "Save Aborted...");
@@ -207,10 +230,10 @@ TEST_F(Document, ClosesAndStartsAnewWhenThePaneGetsTheFocus) {
 
   form.txtEdit.UserFocus();
   ExpectState("Untitled.html", kTemplate, false);
+  EXPECT_FALSE(form.cmdSave.Enabled());
   form.mnuFileClose.Click();
+  EXPECT_TRUE(form.cmdSave.Enabled());  // The emptied pane has changed.
   desktop.ExpectMsgBox("There Is No Document To Save", kInformationIcon, "Save Aborted...");
-  form.MarkChanged();
-  form.SetDocumentChanged(false);
   form.cmdSave.Click();
   ExpectState("Untitled.html", kTemplate, false);
 

@@ -50,11 +50,16 @@ start() {
     sleep 0.3
 }
 
-# click X Y: a place in the client area, in twips from its top left corner.
-click() {
+# place X Y: the mouse goes to a place in the client area, in twips from its top left corner.
+place() {
     menu=$((HEIGHT - 7020 * WIDTH / 9405))
-    xdotool mousemove --window "$window" $(($1 * WIDTH / 9405)) $((menu + $2 * WIDTH / 9405)) \
-        click 1
+    xdotool mousemove --window "$window" $(($1 * WIDTH / 9405)) $((menu + $2 * WIDTH / 9405))
+}
+
+# click X Y: a click at such a place.
+click() {
+    place "$1" "$2"
+    xdotool click 1
     sleep 0.2
 }
 
@@ -121,6 +126,30 @@ within 5 is_shown 'Save on Open' || fail "no question about the edits"
 keys alt+n
 within 10 not_running || fail "the program did not end"
 grep -q lost "$page" && fail "saved what was to be dropped"
+
+# A picture dragged from the file list into the page, then the restart with the folder remembered.
+mkdir "$folder/config/tagsmith" 2>/dev/null || true
+convert -size 30x20 xc:red "$folder/pictures.gif"
+rm -f "$folder/config/tagsmith/settings.json"
+mkdir "$folder/site"
+mv "$folder/pictures.gif" "$folder/site/Pic.GIF"
+printf '{"Tagsmith":{"Settings":{"Dir":"c:%s","HeightWidth":"True"}}}' \
+    "$(echo "$folder/site" | sed 's|/|\\\\|g')" >"$folder/config/tagsmith/settings.json"
+printf 'x' >"$page"
+start "$page"
+click 5000 4000
+keys ctrl+Home
+place 500 4000 && xdotool mousedown 1
+sleep 0.2
+for step in 1500 3000 4500 5500; do
+    place $step 3500
+    sleep 0.1
+done
+xdotool mouseup 1
+sleep 0.3
+keys ctrl+s
+expect_file "$page" '<IMG Src="Pic.GIF" Width="30" Height="20" Border="0"></IMG>x\r\n'
+quit
 
 # After the restart the Recent menu brings the page back.
 start

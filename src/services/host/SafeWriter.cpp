@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "services/Error.h"
 #include "services/host/FileAttributes.h"
 #include "services/host/FileStatus.h"
 #include "services/host/HostError.h"
@@ -58,10 +59,15 @@ std::string FollowLinks(fs::path path) {
   throw SystemError(ELOOP);
 }
 
-// A folder of which reading is not allowed cannot be flushed; the file itself has been.
+// As far as it goes: the file itself has been flushed and stands under its name, so nothing that
+// fails here is a failure of the writing.
 void FlushFolder(const std::string& folder) {
   const int number = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (number >= 0) FileDescriptor(number).Finish(Durability::kFlushed);
+  if (number < 0) return;
+  try {
+    FileDescriptor(number).Finish(Durability::kFlushed);
+  } catch (const Error&) {
+  }
 }
 
 // Throws kPermissionDenied when the file, of status `old`, cannot be replaced by another with all
