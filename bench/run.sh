@@ -17,4 +17,17 @@ xvfb-run -a -s "-screen 0 1280x960x24" sh -eu -c "
     for program in '$bin/start_bare $bin/Template.html' '$bin/start_tagsmith'; do
         /usr/bin/time -f 'resident at first paint: %M KiB' \$program
     done
-    '$bin/document_bench' --benchmark_min_time=0.5"
+    '$bin/document_bench' --benchmark_min_time=0.5 --benchmark_out='$home/document.json'"
+
+# Each command's time over the bare component's, at the largest size.
+echo "ratio to the bare component:"
+tr -d '" ,' <"$home/document.json" | awk -F: '
+    $1 == "name" { name = $2 }
+    $1 == "real_time" { time[name] = $2 }
+    END {
+        for (name in time) {
+            split(name, part, "/")
+            bare = part[1] "Bare/" part[2]
+            if (bare in time) printf "%-24s %8.2f ms %8.2f\n", name, time[name], time[name] / time[bare]
+        }
+    }' | sort -t/ -k1,1 -k2,2n

@@ -156,8 +156,9 @@ QLayout* ArrangementLayout::MakeGrid(const Arrangement& node, QWidget& parent) c
   int rows = 0;
   for (auto first = cells.begin(); first != cells.end(); ++rows) {
     const auto last = first + std::min<std::ptrdiff_t>(columns, cells.end() - first);
-    if (std::any_of(first, last, Heightens)) grid->setRowStretch(rows, 1);
-    const bool tall = grid->rowStretch(rows) > 0 || std::any_of(first, last, IsPile);
+    const bool stretches = std::any_of(first, last, Heightens);
+    if (stretches) grid->setRowStretch(rows, 1);
+    const bool tall = stretches || std::any_of(first, last, IsPile);
     for (int column = 0; first != last; ++first, ++column) {
       if (Widens(*first)) grid->setColumnStretch(column, 1);
       AppendToGrid(*grid, *first, parent, rows, column, tall);

@@ -11,13 +11,9 @@
 
 #include "services/Buttons.h"
 #include "services/Dialogs.h"
-#include "services/Menu.h"
 #include "services/Platform.h"
-#include "services/SSTab.h"
 #include "services/desktop/system/Icons.h"
 #include "services/desktop/system/TextConversion.h"
-#include "services/desktop/windows/ArrangementLayout.h"
-#include "services/desktop/windows/ViewFactory.h"
 #include "services/desktop/windows/WindowShape.h"
 
 namespace tagsmith {
@@ -45,6 +41,8 @@ FormWindow::FormWindow(Form& form)
   window_->setObjectName(ToQString(form.Name()));
   window_->setWindowTitle(ToQString(form.Caption()));
   window_->setWindowIcon(ApplicationIcon());
+  afterEvent_.setSingleShot(true);
+  connect(&afterEvent_, &QTimer::timeout, this, [this] { FinishEvent(); });
   ShowPointer(form.MousePointer());
   MakeMenus();
   MakeViews();
@@ -78,132 +76,6 @@ WindowEvents FormWindow::Events() {
   };
 }
 
-// --- The views ---
-
-void FormWindow::MakeMenus() {
-  ViewHost& host = *this;
-  for (Menu* menu : form_.Menus()) {
-    menus_.push_back(std::make_unique<MenuView>(*menu, host, window_->MenuBar()));
-  }
-}
-
-void FormWindow::MakeViews() {
-  QWidget& client = window_->Client();
-  if (HasLayout()) {
-    ArrangementLayout(scale_, [this](Control& control, QWidget& parent) {
-      return MakeView(control, parent);
-    }).Realise(*form_.GetArrangement(), client);
-  } else {
-    MakeChildren(nullptr, 0, client);
-  }
-  LinkLabels();
-  SetTabOrder();
-}
-
-WidgetView* FormWindow::MakeView(Control& control, QWidget& parent) {
-  std::unique_ptr<WidgetView> made = MakeControlView(control, *this, parent);
-  if (made == nullptr) return nullptr;
-  WidgetView* view = made.get();
-  views_.push_back(std::move(made));
-  if (control.Kind() == ControlKind::kStatusBar) statusBar_ = view;
-  if (control.Kind() == ControlKind::kFrame || control.Kind() == ControlKind::kPictureBox) {
-    if (!HasLayout() || control.Kind() == ControlKind::kPictureBox) {
-      MakeChildren(&control, 0, *view->ChildParent(0));
-    }
-  }
-  if (control.Kind() == ControlKind::kSSTab) view->Changed(Property::kTab);
-  return view;
-}
-
-void FormWindow::MakeChildren(const Control* container, int page, QWidget& parent) {
-  std::vector<WidgetView*> behind;
-  const std::vector<Control*> controls = form_.Controls();
-  for (Control* control : controls) {
-    if (control->Container() != container || control->Page() != page) continue;
-    if (control->View() != nullptr) continue;
-    WidgetView* view = MakeView(*control, parent);
-    if (view == nullptr) continue;
-    view->StandByBounds();
-    if (shown_) view->Place();
-    if (StandsBehind(control->Kind())) behind.push_back(view);
-  }
-  // Texts and figures lie behind what takes input, the later ones in front.
-  std::for_each(behind.rbegin(), behind.rend(), [](WidgetView* view) { view->Widget()->lower(); });
-}
-
-void FormWindow::MakePage(const SSTab& tab, int page) {
-  auto* view = static_cast<WidgetView*>(tab.View());
-  if (view == nullptr || page < 0) return;
-  const std::size_t before = views_.size();
-  MakeChildren(&tab, page, *view->ChildParent(page));
-  if (views_.size() == before || !shown_) return;
-  LinkLabels();
-  SetTabOrder();
-}
-
-void FormWindow::LinkLabels() const {
-  std::vector<WidgetView*> views;
-  views.reserve(views_.size());
-  for (const auto& view : views_) views.push_back(view.get());
-  LinkLabelsToFields(views);
-}
-
-void FormWindow::SetTabOrder() const {
-  QWidget* before = nullptr;
-  const auto append = [&before](const WidgetView& view) {
-    QWidget* target = view.FocusTarget();
-    if (target->focusPolicy() == Qt::NoFocus) return;
-    if (before != nullptr) QWidget::setTabOrder(before, target);
-    before = target;
-  };
-  if (HasLayout()) {
-    for (const auto& view : views_) append(*view);
-    return;
-  }
-  for (const Control* control : form_.Controls()) {
-    if (control->Kind() == ControlKind::kMenu || control->View() == nullptr) continue;
-    append(*static_cast<WidgetView*>(control->View()));
-  }
-}
-
-void FormWindow::ControlsChanged() {
-  // The control is still being made, or is half gone.
-  QTimer::singleShot(0, this, [this] {
-    DropViewsOfGoneControls();
-    if (!HasLayout()) MakeChildren(nullptr, 0, window_->Client());
-    for (std::size_t i = 0; i < views_.size(); ++i) views_[i]->Changed(Property::kTab);
-    LinkLabels();
-    SetTabOrder();
-  });
-}
-
-void FormWindow::DropViewsOfGoneControls() {
-  const std::vector<Control*>& present = form_.Controls();
-  std::erase_if(views_, [this, &present](const std::unique_ptr<WidgetView>& view) {
-    if (std::find(present.begin(), present.end(), &view->Model()) != present.end()) return false;
-    if (view->Widget() != nullptr) view->Widget()->deleteLater();
-    if (statusBar_ == view.get()) statusBar_ = nullptr;
-    return true;
-  });
-}
-
-QButtonGroup& FormWindow::OptionGroup(const Control* container) {
-  std::unique_ptr<QButtonGroup>& group = optionGroups_[container];
-  if (!group) group = std::make_unique<QButtonGroup>();
-  return *group;
-}
-
-QRect FormWindow::AreaFor(const WidgetView& view) const {
-  const Control* container = view.Model().Container();
-  // Not the page's own rectangle: while hidden it lags behind.
-  if (container != nullptr) return static_cast<WidgetView*>(container->View())->Widget()->rect();
-  QRect area = window_->Client().rect();
-  if (statusBar_ != nullptr && statusBar_ != &view && statusBar_->Model().Visible()) {
-    area.setBottom(area.bottom() - statusBar_->Widget()->height());
-  }
-  return area;
-}
-
 // --- The user's actions ---
 
 void FormWindow::Act(const std::function<void()>& action) {
@@ -214,16 +86,20 @@ void FormWindow::Act(const std::function<void()>& action) {
   } catch (const std::exception& error) {
     form_.GetPlatform().dialogs.MsgBox(form_, error.what(), kOkOnly, kApplicationTitle);
   }
-  if (--acting_ == 0 && focused_) PostFocus();
+  if (--acting_ == 0 && focused_) afterEvent_.start();
 }
 
 void FormWindow::UserFocused(WidgetView& view) {
   focused_ = &view;
-  PostFocus();
+  afterEvent_.start();
 }
 
-void FormWindow::PostFocus() {
-  QTimer::singleShot(0, this, [this] { DeliverFocus(); });
+void FormWindow::FinishEvent() {
+  if (std::exchange(controlsChanged_, false)) SyncViews();
+  if (!minimum_.isNull()) {
+    window_->setMinimumSize(window_->SizeFor(minimum_).boundedTo(RoomFor(*window_)));
+  }
+  DeliverFocus();
 }
 
 void FormWindow::DeliverFocus() {
@@ -370,9 +246,7 @@ void FormWindow::AnswerModel(QSize given) {
   const QSize minimum = minimum_.expandedTo(least);
   if (minimum == minimum_) return;
   minimum_ = minimum;
-  QTimer::singleShot(0, this, [this] {
-    window_->setMinimumSize(window_->SizeFor(minimum_).boundedTo(RoomFor(*window_)));
-  });
+  afterEvent_.start();
 }
 
 void FormWindow::PlaceViews() {

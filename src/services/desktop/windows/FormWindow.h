@@ -4,6 +4,7 @@
 #include <QEventLoop>
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
 #include <map>
 #include <memory>
 #include <vector>
@@ -58,6 +59,7 @@ class FormWindow final : public QObject, public FormView, private ViewHost {
   void MakeChildren(const Control* container, int page, QWidget& parent);
   void SetTabOrder() const;
   void LinkLabels() const;
+  void SyncViews();
   void DropViewsOfGoneControls();
 
   // Size.
@@ -69,8 +71,8 @@ class FormWindow final : public QObject, public FormView, private ViewHost {
   void PlaceViews();
 
   void PutOnScreen(const QWidget* above);
+  void FinishEvent();
   void DeliverFocus();
-  void PostFocus();
   void ShowPointer(int pointer);
   bool HasLayout() const { return form_.GetArrangement() != nullptr; }
 
@@ -82,11 +84,13 @@ class FormWindow final : public QObject, public FormView, private ViewHost {
   std::vector<std::unique_ptr<MenuView>> menus_;
   std::map<const Control*, std::unique_ptr<QButtonGroup>> optionGroups_;
   std::unique_ptr<QEventLoop> modalLoop_;
+  QTimer afterEvent_;             // Fires once the event loop is reached.
   QPointer<WidgetView> focused_;  // What the user has moved the focus to and the model not heard.
-  QSize minimum_;                 // The client size below which the form has refused to go.
+  QSize minimum_{0, 0};           // The client size below which the form has refused to go.
   Control* dragged_ = nullptr;
   int acting_ = 0;
   bool resizing_ = false;
+  bool controlsChanged_ = false;
   bool shown_ = false;
   bool hourglass_ = false;
 };

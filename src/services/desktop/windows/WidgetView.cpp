@@ -121,7 +121,8 @@ void WidgetView::UpdateColours() const {
   if (control_.BackColor() >= 0) {
     palette.setColor(widget_->backgroundRole(), ToQColor(control_.BackColor()));
   }
-  if (control_.ForeColor() < 0 && control_.BackColor() < 0) return;
+  const bool isPlain = control_.ForeColor() < 0 && control_.BackColor() < 0;
+  if (isPlain && !widget_->testAttribute(Qt::WA_SetPalette)) return;
   widget_->setAutoFillBackground(control_.BackColor() >= 0);
   widget_->setPalette(palette);
 }

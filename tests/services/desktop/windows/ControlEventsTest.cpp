@@ -12,7 +12,6 @@
 #include <QTableView>
 #include <QWheelEvent>
 
-#include "ShownForm.h"
 #include "services/Buttons.h"
 #include "services/Graphics.h"
 #include "services/Lists.h"
@@ -21,6 +20,7 @@
 #include "services/Ranges.h"
 #include "services/SSTab.h"
 #include "services/TextBox.h"
+#include "services/desktop/windows/ShownForm.h"
 
 namespace tagsmith {
 namespace {
@@ -249,7 +249,7 @@ TEST_F(ControlEvents, AHandleHearsTheMouseInTwips) {
   QTest::mouseRelease(label, Qt::LeftButton, {}, QPoint(30, 5));
   ASSERT_EQ(heard.front(), "down 1");
   EXPECT_EQ(heard.back(), "up 1");
-  EXPECT_NEAR(x, 30 * 900 / label->width(), 15);
+  EXPECT_NEAR(x, 30.0 * 900 / label->width(), 15);
 }
 
 TEST_F(ControlEvents, ToolTipsAreShownLetterByLetterAndNameThePictureButtons) {

@@ -3,7 +3,6 @@
 #include <QFont>
 #include <QLabel>
 
-#include "ShownForm.h"
 #include "services/Buttons.h"
 #include "services/ControlArray.h"
 #include "services/FileBoxes.h"
@@ -12,6 +11,7 @@
 #include "services/MSFlexGrid.h"
 #include "services/Ranges.h"
 #include "services/TextBox.h"
+#include "services/desktop/windows/ShownForm.h"
 
 namespace tagsmith {
 namespace {
@@ -105,6 +105,9 @@ TEST_P(DialogLayout, NothingIsCutOrOverlaps) {
 TEST_P(DialogLayout, SizesFollowTheKinds) {
   EXPECT_GE(Place(form->txtName(0)).height(), form->Widget(form->txtName(0))->sizeHint().height());
   EXPECT_EQ(Place(form->txtName(0)).left(), Place(form->txtName(1)).left());
+  for (int row = 0; row < 2; ++row) {
+    EXPECT_NEAR(Place(form->lblName(row)).center().y(), Place(form->txtName(row)).center().y(), 1);
+  }
   EXPECT_EQ(Place(form->cmdInsert).width(), Place(form->cmdCancel).width());
   EXPECT_NEAR(Place(form->cmdCancel).right(), Place(form->txtLines).right(), 1);
   const QRect sketch = Place(form->picSketch);

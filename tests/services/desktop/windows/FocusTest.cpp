@@ -4,12 +4,12 @@
 #include <QFocusEvent>
 #include <QTabBar>
 
-#include "ShownForm.h"
 #include "services/Buttons.h"
 #include "services/Graphics.h"
 #include "services/RichTextBox.h"
 #include "services/SSTab.h"
 #include "services/TextBox.h"
+#include "services/desktop/windows/ShownForm.h"
 
 namespace tagsmith {
 namespace {

@@ -6,12 +6,12 @@
 #include <QTabBar>
 #include <QTimer>
 
-#include "ShownForm.h"
 #include "services/Buttons.h"
 #include "services/Lists.h"
 #include "services/Menu.h"
 #include "services/SSTab.h"
 #include "services/TextBox.h"
+#include "services/desktop/windows/ShownForm.h"
 
 namespace tagsmith {
 namespace {
@@ -145,6 +145,26 @@ TEST(TabPages, ViewsAreMadeWhenTheirPageIsFirstShown) {
   form.Widget(form.second)->setFocus();
   QTest::keyClick(form.Widget(form.second), Qt::Key_Tab);
   EXPECT_EQ(QApplication::focusWidget(), form.Widget(form.last));
+}
+
+TEST(LateControls, GetTheirViewsAndLoseThem) {
+  Screen screen;
+  Pages form(screen);
+  form.ShowAndWait();
+  {
+    CommandButton late(form, "late");
+    late.SetContainer(form.outer, 0);
+    late.Move({600, 600, 1500, 375});
+    late.onClick = form.Log("late");
+    form.TakeLog();
+    ASSERT_NE(form.Widget(late), nullptr);
+    QTest::mouseClick(form.Widget(late), Qt::LeftButton);
+    EXPECT_EQ(form.TakeLog(), (Strings{"late"}));
+  }
+  form.Add<TextBox>("another");
+  form.TakeLog();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_EQ(form.Window().findChild<QWidget*>("late"), nullptr);
 }
 
 /// A fixed dialog that unloads itself.

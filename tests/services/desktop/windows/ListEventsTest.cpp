@@ -3,9 +3,9 @@
 #include <QElapsedTimer>
 #include <QListView>
 
-#include "ShownForm.h"
 #include "services/FileBoxes.h"
 #include "services/Lists.h"
+#include "services/desktop/windows/ShownForm.h"
 
 namespace tagsmith {
 namespace {
