@@ -6,7 +6,7 @@ root=$(cd "$(dirname "$0")/.." && pwd)
 . "$root/tools/setup.sh"
 
 install_packages $BUILD_PACKAGES libbenchmark-dev hyperfine time xvfb xauth
-build bench
+build bench start_bare start_tagsmith document_bench
 bin="$root/build/bench/bin"
 home=$(mktemp -d)
 trap 'rm -rf "$home"' EXIT

@@ -30,8 +30,7 @@ void PlainTextPane::PressKey(int keyAscii, std::string_view text) {
     return;
   }
   if (selection_.length == 0 && selection_.start > 0) {
-    const bool afterLineEnd = std::string_view(text_).substr(0, selection_.start).ends_with("\r\n");
-    const std::size_t start = Snap(selection_.start - (afterLineEnd ? 2 : 1), 0).start;
+    const std::size_t start = Snap(selection_.start - 1);
     selection_ = {start, selection_.start - start};
   }
   if (selection_.length > 0) UserReplace(selection_, {});
@@ -78,18 +77,24 @@ void PlainTextPane::TellChange() {
 
 // --- The pane ---
 
+std::size_t PlainTextPane::Snap(std::size_t position) const {
+  const bool inLineEnd =
+      position > 0 && position < text_.size() && text_.compare(position - 1, 2, "\r\n") == 0;
+  return inLineEnd ? position - 1 : SnapToCharacter(text_, position);
+}
+
 PlainTextPane::Span PlainTextPane::Snap(std::size_t start, std::size_t length) const {
   const std::size_t clamped = std::min(start, text_.size());
   const std::size_t end = clamped + std::min(length, text_.size() - clamped);
-  const std::size_t first = SnapToCharacter(text_, clamped);
-  return {first, SnapToCharacter(text_, end) - first};
+  const std::size_t first = Snap(clamped);
+  return {first, Snap(end) - first};
 }
 
 void PlainTextPane::Replace(Span span, std::string_view text) {
   if (groups_ == 0) undo_.emplace_back();
   undo_.back().push_back({span.start, text_.substr(span.start, span.length), std::string(text)});
   text_.replace(span.start, span.length, text);
-  selection_ = {span.start + text.size(), 0};
+  selection_ = {Snap(span.start + text.size()), 0};
 }
 
 void PlainTextPane::SetText(std::string_view text) {
@@ -112,12 +117,7 @@ void PlainTextPane::ReplaceSelection(std::string_view text) {
 }
 
 std::size_t PlainTextPane::LineFromPosition(std::size_t position) const {
-  const std::size_t place = Snap(position, 0).start;
-  std::string_view before = std::string_view(text_).substr(0, place);
-  // Between CR and LF the line has not ended yet.
-  const bool inLineEnd = before.ends_with('\r') && text_.substr(place, 1) == "\n";
-  if (inLineEnd) before.remove_suffix(1);
-  return CountLineEnds(before);
+  return CountLineEnds(std::string_view(text_).substr(0, Snap(position)));
 }
 
 void PlainTextPane::BeginUndoGroup() {
@@ -135,7 +135,7 @@ bool PlainTextPane::TryUndo() {
   undo_.pop_back();
   for (auto edit = step.rbegin(); edit != step.rend(); ++edit) {
     text_.replace(edit->start, edit->inserted.size(), edit->removed);
-    selection_ = {edit->start + edit->removed.size(), 0};
+    selection_ = {Snap(edit->start + edit->removed.size()), 0};
   }
   return true;
 }

@@ -55,6 +55,7 @@ class PlainTextPane final : public TextPane {
   };
   using Step = std::vector<Edit>;
 
+  std::size_t Snap(std::size_t position) const;
   Span Snap(std::size_t start, std::size_t length) const;
   void Replace(Span span, std::string_view text);
   bool TryUndo();

@@ -116,6 +116,8 @@ void ColourMarks(Sci& pane, const PaneColours& colours) {
 
 void PrepareLexer(Sci& pane) {
   pane.SendScintilla(Sci::SCI_SETLEXERLANGUAGE, "hypertext");
+  // Server code is VBScript where the page does not name another language.
+  pane.SendScintilla(Sci::SCI_SETPROPERTY, "asp.default.language", "2");
   for (const PaneWords& words : PaneWordSets()) {
     pane.SendScintilla(Sci::SCI_SETKEYWORDS, std::uintptr_t{words.set}, words.words);
   }

@@ -44,7 +44,10 @@ std::size_t ScintillaText::Snap(std::size_t position) const {
 
   const std::size_t from = position - std::min(position, kLongestCharacter - 1);
   const std::size_t to = std::min(position + kLongestCharacter, length);
-  return from + SnapToCharacter(Bytes({from, to - from}), position - from);
+  const std::string around = Bytes({from, to - from});
+  const std::size_t at = position - from;
+  if (at > 0 && around.compare(at - 1, 2, "\r\n") == 0) return position - 1;
+  return from + SnapToCharacter(around, at);
 }
 
 TextSpan ScintillaText::Snap(std::size_t start, std::size_t length) const {

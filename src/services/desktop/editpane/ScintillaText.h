@@ -11,15 +11,15 @@ class QsciScintillaBase;
 namespace tagsmith {
 
 /// The text of a Scintilla widget, byte for byte. Positions are byte offsets; Scintilla aborts on
-/// one outside the text, so every value is first brought to the start of a character in it. What is
-/// written here raises no notification of the widget: those cost time in proportion to the
+/// one outside the text, so every value is first brought to a place in it where a caret can stand.
+/// What is written here raises no notification of the widget: those cost time in proportion to the
 /// position.
 class ScintillaText {
  public:
   explicit ScintillaText(QsciScintillaBase& widget) : widget_(widget) {}
 
   std::size_t Length() const;
-  /// `position` as the start of a character, or the end of the text.
+  /// The start of the character or of the CR LF that `position` falls into, or the end of the text.
   std::size_t Snap(std::size_t position) const;
   TextSpan Snap(std::size_t start, std::size_t length) const;
   /// The bytes of a span that lies in the text.

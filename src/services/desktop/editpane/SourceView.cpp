@@ -75,7 +75,7 @@ void SourceView::ReplaceSelection(std::string_view text) {
   const TextSpan selection = text_.Selection();
   if (selection.length == 0 && text.empty()) return;
   text_.Replace(selection, text);
-  text_.Select({selection.start + text.size(), 0});
+  text_.Select({text_.Snap(selection.start + text.size()), 0});
   Settle();
 }
 
@@ -196,7 +196,17 @@ void SourceView::Settle() {
   if (text_.InGroup()) return;
   FitLineNumberMargin(*this);
   if (font_.strikeThru) FillIndicator(*this, kStrikeIndicator, {0, text_.Length()});
+  SnapCaret();
   ShowCaret();
+}
+
+// An edit can bring a CR before the caret and a LF behind it together. The caret is drawn at the
+// end of the line then, and what is typed has to appear there.
+void SourceView::SnapCaret() {
+  const TextSpan caret = text_.Selection();
+  if (composing_ || caret.length > 0) return;
+  const std::size_t place = text_.Snap(caret.start);
+  if (place != caret.start) text_.Select({place, 0});
 }
 
 void SourceView::ShowCaret() {
@@ -224,8 +234,8 @@ void SourceView::RefreshLook() {
 
 void SourceView::MarkMatchingTag() {
   constexpr std::size_t kReach = 65536;
-  ClearIndicator(*this, kMatchIndicator, text_.Snap(markedTags_.start, markedTags_.length));
-  markedTags_ = {};
+  // Edits have moved the marks. Where there are none this costs next to nothing.
+  ClearIndicator(*this, kMatchIndicator, {0, text_.Length()});
   if (text_.Selection().length > 0) return;
 
   const std::size_t caret = text_.Selection().start;
@@ -238,7 +248,6 @@ void SourceView::MarkMatchingTag() {
     name.start += from;
     FillIndicator(*this, kMatchIndicator, name);
   }
-  markedTags_ = {from + pair->opening.start, pair->closing.End() - pair->opening.start};
 }
 
 }  // namespace tagsmith

@@ -5,6 +5,7 @@
 #include <QPoint>
 #include <QTimer>
 #include <functional>
+#include <string>
 #include <string_view>
 
 #include "services/TextPane.h"
@@ -81,13 +82,15 @@ class SourceView final : public QsciScintilla {
   // Puts `text` in place of a span for the user.
   void UserReplace(const TextSpan& span, std::string_view text);
   std::size_t PositionAt(const QPoint& place) const;
-  // The bytes of the selection as they go to other programs.
+  // The bytes of the selection as they go to other programs, and what comes from those.
   QMimeData* SelectionData() const;
+  static std::string TextOf(const QMimeData* data);
 
   void FollowPrimarySelection();
   void NotePrimarySelection(bool owned);
   void DropComposition();
   void Settle();
+  void SnapCaret();
   void ShowCaret();
   void RefreshLook();
   void MarkMatchingTag();
@@ -96,7 +99,6 @@ class SourceView final : public QsciScintilla {
   TextPaneListener* listener_ = nullptr;
   std::function<void(QPoint)> controlDropHandler_;
   FontSpec font_;
-  TextSpan markedTags_;
   QTimer report_;  // of changes made without an event
   QTimer claim_;   // of the primary selection
   int userEvents_ = 0;

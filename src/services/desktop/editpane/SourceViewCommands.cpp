@@ -12,6 +12,7 @@
 #include "services/desktop/editpane/PaneColours.h"
 #include "services/desktop/editpane/PaneLook.h"
 #include "services/desktop/editpane/SourceView.h"
+#include "services/desktop/system/TextConversion.h"
 
 namespace tagsmith {
 namespace {
@@ -52,7 +53,7 @@ void SourceView::copy() {
 }
 
 void SourceView::paste() {
-  const std::string text = QApplication::clipboard()->text().toStdString();
+  const std::string text = TextOf(QApplication::clipboard()->mimeData());
   if (!text.empty()) UserReplace(text_.Selection(), text);
 }
 
@@ -98,8 +99,12 @@ bool SourceView::RunOwnCommand(int command) {
 
 QMimeData* SourceView::SelectionData() const {
   auto* bytes = new QMimeData;
-  bytes->setText(QString::fromStdString(text_.Bytes(text_.Selection())));
+  bytes->setText(ToQString(text_.Bytes(text_.Selection())));
   return bytes;
+}
+
+std::string SourceView::TextOf(const QMimeData* data) {
+  return data == nullptr ? std::string() : FromQString(data->text());
 }
 
 // The base class's own turns a NUL into a blank.
@@ -159,7 +164,7 @@ QPoint SourceView::CaretOnScreen() const {
 
 void SourceView::FillContextMenu(QMenu& menu) {
   const bool selected = text_.Selection().length > 0;
-  const bool pastable = !QApplication::clipboard()->text().isEmpty();
+  const bool pastable = !TextOf(QApplication::clipboard()->mimeData()).empty();
   const MenuEntry entries[] = {
       {"&Undo", "Ctrl+Z", "edit-undo", &SourceView::undo, isUndoAvailable()},
       {"&Redo", "Ctrl+Y", "edit-redo", &SourceView::redo, isRedoAvailable()},

@@ -48,7 +48,7 @@ void SourceView::mouseReleaseEvent(QMouseEvent* event) {
 void SourceView::PastePrimarySelection(const QPoint& place) {
   const QClipboard* clipboard = QApplication::clipboard();
   if (!clipboard->supportsSelection()) return;
-  const std::string text = clipboard->text(QClipboard::Selection).toStdString();
+  const std::string text = TextOf(clipboard->mimeData(QClipboard::Selection));
   if (!text.empty()) UserReplace({PositionAt(place), 0}, text);
 }
 
@@ -94,9 +94,9 @@ void SourceView::DropText(QDropEvent& event) {
     MoveSelectionTo(position, event.dropAction() == Qt::MoveAction);
     return;
   }
-  const std::string text = event.mimeData()->text().toStdString();
+  const std::string text = TextOf(event.mimeData());
   UserReplace({position, 0}, text);
-  text_.Select({position, text.size()});
+  text_.Select(text_.Snap(position, text.size()));
 }
 
 void SourceView::MoveSelectionTo(std::size_t position, bool moving) {
@@ -113,7 +113,7 @@ void SourceView::MoveSelectionTo(std::size_t position, bool moving) {
     if (!ahead) position -= bytes.size();
   }
   text_.EndGroup();
-  text_.Select({position, bytes.size()});
+  text_.Select(text_.Snap(position, bytes.size()));
   modified_ = true;
 }
 

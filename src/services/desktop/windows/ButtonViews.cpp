@@ -20,6 +20,8 @@ constexpr Twips kToolButtonWidth = 450;
 constexpr Twips kIconSize = 240;
 constexpr Twips kToolButtonRim = 60;
 
+constexpr QLatin1String kNamePrefix("cmd");
+
 QAbstractButton* MakeButton(bool toolButton, bool isDefault, QWidget& parent) {
   if (toolButton) {
     auto* button = new QToolButton(&parent);
@@ -48,10 +50,14 @@ bool CommandButtonView::IsToolButton() const {
   return model_.Owner().GetArrangement() == nullptr && model_.Width() <= kToolButtonWidth;
 }
 
+// A picture says nothing to a screen reader: the tool tip does, or else the button's own name.
 QString CommandButtonView::AccessibleName() const {
-  return model_.PictureName().empty() || model_.ToolTipText().empty()
-             ? WithoutMnemonic(model_.Caption())
-             : ToQString(model_.ToolTipText());
+  if (model_.PictureName().empty() || !model_.Caption().empty()) {
+    return WithoutMnemonic(model_.Caption());
+  }
+  if (!model_.ToolTipText().empty()) return ToQString(model_.ToolTipText());
+  const QString name = ToQString(model_.Name());
+  return name.startsWith(kNamePrefix) ? name.mid(kNamePrefix.size()) : name;
 }
 
 void CommandButtonView::UpdateFace() {

@@ -4,6 +4,7 @@
 #include <QItemSelection>
 #include <QMimeData>
 
+#include "services/desktop/editpane/QtTextPane.h"
 #include "services/desktop/system/TextConversion.h"
 #include "services/desktop/windows/MouseButtons.h"
 

@@ -8,10 +8,6 @@
 
 namespace tagsmith {
 
-/// What is dragged from one control to another carries this type, and nothing that another program
-/// could read.
-inline constexpr const char* kControlMimeType = "application/x-tagsmith-control";
-
 class FileListView final : public ViewOf<FileListBox> {
  public:
   FileListView(FileListBox& control, ViewHost& host, QWidget& parent);

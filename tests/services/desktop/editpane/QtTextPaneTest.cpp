@@ -1,5 +1,6 @@
 #include "services/desktop/editpane/QtTextPane.h"
 
+#include <Qsci/qscilexerhtml.h>
 #include <Qsci/qsciscintilla.h>
 #include <gtest/gtest.h>
 
@@ -12,6 +13,7 @@
 #include <optional>
 
 #include "services/desktop/editpane/PaneColours.h"
+#include "services/desktop/editpane/PaneLook.h"
 
 namespace tagsmith {
 namespace {
@@ -67,6 +69,19 @@ class QtTextPaneTest : public testing::Test {
     QDropEvent event(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(Viewport(), &event);
     EXPECT_TRUE(event.isAccepted());
+  }
+  // The text, with the pieces that are marked as a pair of tags in brackets.
+  std::string Marked() {
+    Viewport()->grab();  // marks are set when the pane is about to paint
+    std::string text;
+    bool inMark = false;
+    for (std::size_t at = 0; at <= pane_.Length(); ++at) {
+      const bool marked = View().SendScintilla(Sci::SCI_INDICATORVALUEAT, kMatchIndicator,
+                                               static_cast<long>(at)) != 0;
+      if (marked != std::exchange(inMark, marked)) text += marked ? '[' : ']';
+      text += pane_.TextRange(at, 1);
+    }
+    return text;
   }
   // What one user event has left, told exactly once.
   void ExpectChangedOnce(const std::string& text) {
@@ -137,12 +152,12 @@ TEST_F(QtTextPaneTest, LeavesTheMenusTheirKeys) {
 
 TEST_F(QtTextPaneTest, CutsAndPastesWithoutChangingAByte) {
   using namespace std::string_literals;
-  const std::string text = "a\0b\r\nc\rd\ne\u00e9"s;
+  const std::string text = "\uFEFFa\0b\r\nc\rd\ne\u00e9"s;
   pane_.SetText(text);
   Key(Qt::Key_A, Qt::ControlModifier);
   Key(Qt::Key_X, Qt::ControlModifier);
   ExpectChangedOnce("");
-  EXPECT_EQ(QApplication::clipboard()->text().toStdString(), text);
+  EXPECT_EQ(QApplication::clipboard()->mimeData()->text().toStdString(), text);
   Key(Qt::Key_C, Qt::ControlModifier);  // nothing selected: the clipboard stays
   Key(Qt::Key_V, Qt::ControlModifier);
   ExpectChangedOnce(text);
@@ -158,18 +173,18 @@ TEST_F(QtTextPaneTest, CutsAndPastesWithoutChangingAByte) {
 TEST_F(QtTextPaneTest, PastesThePrimarySelectionWhereItIsClicked) {
   pane_.SetText("\u00e9 two");
   if (!QApplication::clipboard()->supportsSelection()) GTEST_SKIP() << "no primary selection here";
-  QApplication::clipboard()->setText("x\r\ny\n", QClipboard::Selection);
+  QApplication::clipboard()->setText(u"\uFEFFx\r\ny\n"_qs, QClipboard::Selection);
   QTest::mouseClick(Viewport(), Qt::MiddleButton, Qt::NoModifier, PlaceOf(3));
-  ExpectChangedOnce("\u00e9 x\r\ny\ntwo");
+  ExpectChangedOnce("\u00e9 \uFEFFx\r\ny\ntwo");
 }
 
 TEST_F(QtTextPaneTest, TakesDropsOfTextAndHandsOnDropsOfControls) {
   pane_.SetText("\u00e9 two");
   QMimeData text;
-  text.setText("x\ry\n");
+  text.setText(u"\uFEFFx\ry\n"_qs);
   Drop(text, PlaceOf(3));
-  ExpectChangedOnce("\u00e9 x\ry\ntwo");
-  EXPECT_EQ(pane_.TextRange(pane_.SelStart(), pane_.SelLength()), "x\ry\n");
+  ExpectChangedOnce("\u00e9 \uFEFFx\ry\ntwo");
+  EXPECT_EQ(pane_.TextRange(pane_.SelStart(), pane_.SelLength()), "\uFEFFx\ry\n");
 
   std::optional<QPoint> dropped;
   pane_.SetControlDropHandler([&](QPoint place) { dropped = place; });
@@ -179,6 +194,43 @@ TEST_F(QtTextPaneTest, TakesDropsOfTextAndHandsOnDropsOfControls) {
   Drop(control, {40, 30});
   EXPECT_EQ(dropped, Viewport()->mapTo(pane_.Widget(), QPoint(40, 30)));
   EXPECT_EQ(listener_.changes, 0);
+}
+
+TEST_F(QtTextPaneTest, TypesWhereTheCaretIsDrawn) {
+  pane_.SetText("a\rx\n");
+  pane_.Select(3, 0);
+  Key(Qt::Key_Backspace);  // joins CR and LF
+  ExpectChangedOnce("a\r\n");
+  Key(Qt::Key_B);
+  ExpectChangedOnce("ab\r\n");
+}
+
+TEST_F(QtTextPaneTest, TakesMarksOffTagsThatMatchNoMore) {
+  pane_.SetText("<ul>text</ul><p></p>");
+  pane_.Select(3, 0);
+  EXPECT_EQ(Marked(), "<[ul]>text</[ul]><p></p>");
+  Key(Qt::Key_X);
+  EXPECT_EQ(Marked(), "<ulx>text</ul><p></p>");
+  Key(Qt::Key_Backspace);
+  EXPECT_EQ(Marked(), "<[ul]>text</[ul]><p></p>");
+  pane_.BeginUndoGroup();
+  pane_.Select(0, 0);
+  pane_.ReplaceSelection("0123456789 0123456789 ");
+  pane_.Select(37, 0);
+  pane_.EndUndoGroup();
+  EXPECT_EQ(Marked(), "0123456789 0123456789 <ul>text</ul><[p]></[p]>");
+}
+
+TEST_F(QtTextPaneTest, ColoursServerCodeInTheLanguageOfThePage) {
+  const auto style = [&](unsigned long position) {
+    View().SendScintilla(Sci::SCI_COLOURISE, 0UL, -1L);
+    return View().SendScintilla(Sci::SCI_GETSTYLEAT, position, 0L);
+  };
+  pane_.SetText("<% Dim x 'c\r\n%>");
+  EXPECT_EQ(style(3), QsciLexerHTML::ASPVBScriptKeyword);
+  EXPECT_EQ(style(10), QsciLexerHTML::ASPVBScriptComment);
+  pane_.SetText("<%@ language=\"JScript\" %><% var x; %>");
+  EXPECT_EQ(style(29), QsciLexerHTML::ASPJavaScriptKeyword);
 }
 
 TEST_F(QtTextPaneTest, KeepsACompositionOutOfTheSystemsEdits) {

@@ -82,6 +82,32 @@ TEST_P(TextPaneContract, BringsEveryPositionToACharacterInTheText) {
   EXPECT_EQ(pane_->Text(), "a\u20acb!");
 }
 
+TEST_P(TextPaneContract, LetsNoCaretStandInALineEnd) {
+  pane_->SetText("\u00e9\r\n\n");  // the pair is at 2
+  pane_->Select(3, 0);
+  ExpectSelection(2, 0);
+  pane_->Select(0, 3);
+  ExpectSelection(0, 2);
+  pane_->Select(3, 2);
+  ExpectSelection(2, 3);
+  pane_->Select(4, 1);
+  ExpectSelection(4, 1);
+  EXPECT_EQ(pane_->TextRange(3, 1), "\r\n");
+  Replace(3, 0, "|");
+  EXPECT_EQ(pane_->Text(), "\u00e9|\r\n\n");
+
+  // An edit can make the pair around the caret.
+  pane_->SetText("a\rx\n");
+  Replace(2, 1, "");
+  ExpectSelection(1, 0);
+  pane_->SetText("a\n");
+  Replace(1, 0, "\r");
+  ExpectSelection(1, 0);
+  Replace(1, 2, "");
+  pane_->Undo();
+  ExpectSelection(3, 0);
+}
+
 TEST_P(TextPaneContract, LeavesTheCaretBehindWhatItPutsIn) {
   pane_->SetText("one two");
   pane_->Select(4, 3);
@@ -89,9 +115,6 @@ TEST_P(TextPaneContract, LeavesTheCaretBehindWhatItPutsIn) {
   pane_->ReplaceSelection("\u00e9\r\n");
   EXPECT_EQ(pane_->Text(), "one \u00e9\r\n");
   ExpectSelection(8, 0);
-  // The place between CR and LF is one of its own.
-  Replace(7, 0, "|");
-  EXPECT_EQ(pane_->Text(), "one \u00e9\r|\n");
   pane_->SetText("new");
   ExpectSelection(0, 0);
 }
