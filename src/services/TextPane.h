@@ -21,8 +21,8 @@ class TextPaneListener {
 
 /// The live text component behind a `RichTextBox`: the text, one selection, one font, and undo.
 /// Texts are UTF-8 and kept byte for byte, CR LF, lone CR or LF and NUL included. Positions are
-/// byte offsets; one that falls into a character counts as its start, one behind the text as its
-/// end. The system's own calls tell the listener nothing.
+/// byte offsets; one that falls into a character or between CR and LF counts as its start, one
+/// behind the text as its end. The system's own calls tell the listener nothing.
 class TextPane {
  public:
   virtual ~TextPane() = default;

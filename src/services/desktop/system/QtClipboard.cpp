@@ -10,7 +10,7 @@
 namespace tagsmith {
 namespace {
 
-// QClipboard::text() would drop a leading byte order mark.
+// By way of the data, so that a leading byte order mark stays.
 QString ClipboardText() {
   const QMimeData* data = QGuiApplication::clipboard()->mimeData();
   return data == nullptr ? QString() : data->text();
