@@ -120,6 +120,8 @@ within 5 is_shown '^Tagsmith - ' || fail "the dates did not go"
 keys ctrl+s
 day=$(date +%m%d%Y)
 expect_file "$page" "//     Wort <P>first</P>\\r\\n${day}//<P>second</P>\\r\\n\\r\\n"
+# One Escape leads from a menu back into the text.
+keys alt+f Escape
 xdotool type --delay 20 'lost'
 keys alt+f x
 within 5 is_shown 'Save on Open' || fail "no question about the edits"

@@ -50,7 +50,7 @@ std::vector<Include> AllIncludes() {
 // The floor that a file stands on: its folder, the one below services/ included.
 std::string FloorOf(const fs::path& file) {
   auto part = file.begin();
-  const std::string first = part->string();
+  std::string first = part->string();
   if (first != "services") return first;
   const std::string second = (++part)->string();
   return std::next(part) == file.end() ? first : first + "/" + second;

@@ -12,7 +12,7 @@ namespace tagsmith {
 namespace {
 
 constexpr int kHintLetters = 24;
-constexpr int kHintRows = 9;
+constexpr int kHintRows = 11;
 
 /// Draws a row further right the deeper its entry lies.
 class IndentedRows final : public QStyledItemDelegate {

@@ -1,8 +1,10 @@
 #include "services/desktop/windows/MenuView.h"
 
+#include <QApplication>
 #include <QKeySequence>
 #include <QMenuBar>
 
+#include "services/Form.h"
 #include "services/desktop/system/TextConversion.h"
 #include "services/desktop/windows/WidgetView.h"
 
@@ -13,7 +15,24 @@ MenuView::MenuView(Menu& menu, ViewHost& host, QMenuBar& bar)
   QMenu* dropDown = bar.addMenu(QString());
   action_ = dropDown->menuAction();
   MakeEntries(*dropDown);
+  connect(
+      dropDown, &QMenu::aboutToHide, this,
+      [this, menuBar = &bar] {
+        if (menuBar->hasFocus() && QApplication::activePopupWidget() == nullptr) LeaveMenuBar();
+      },
+      Qt::QueuedConnection);
   Start();
+}
+
+// One Escape leads from a menu back into the text. The menu bar would keep the keyboard and, left
+// and entered again by an access key, not know any more where it had it from.
+void MenuView::LeaveMenuBar() {
+  const Control* control = model_.Owner().ActiveControl();
+  if (control != nullptr && control->View() != nullptr) {
+    control->View()->Changed(Property::kFocus);
+  } else {
+    host_.DropFocus();
+  }
 }
 
 MenuView::MenuView(Menu& menu, ViewHost& host, QMenu& parent)

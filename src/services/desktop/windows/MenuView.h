@@ -28,6 +28,7 @@ class MenuView final : public QObject, public ControlView {
   void Start();
   void MakeEntries(QMenu& menu);
   void Click();
+  void LeaveMenuBar();
   QString Text() const;
 
   Menu& model_;
