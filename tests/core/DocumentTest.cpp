@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "core/frmSplash.h"
 #include "services/CommonDialog.h"
 #include "support/RunningProgram.h"
 
@@ -55,8 +56,8 @@ class Document : public ::testing::Test {
 };
 
 TEST_F(Document, SavesWhatItLoadedByteForByteWithOneLineEndMore) {
-  const std::vector<std::string> files = {"", "a\r\nb\nc\rd", std::string("n\0l", 3),
-                                          "\xEF\xBB\xBFmärk", "latin \xE9\x80\x81 page\n"};
+  const std::vector<std::string> files = {"", std::string("a\r\nb\nc\rd\0", 8), "\xEF\xBB\xBFmärk",
+                                          "latin \xE9\x80\x81 page\n"};
   for (const std::string& bytes : files) EXPECT_EQ(LoadAndSave(bytes), bytes + "\r\n");
   EXPECT_EQ(desktop.files.LastDurability(), Durability::kFlushed);
   EXPECT_EQ(LoadAndSave("caf\xE9", "ü"),
@@ -70,25 +71,8 @@ TEST_F(Document, SavesWhatItLoadedByteForByteWithOneLineEndMore) {
   EXPECT_EQ(form.txtEdit.Text(), "café") << "and nothing from before the load";
 }
 
-TEST_F(Document, OpensNamesAndShowsAFile) {
-  form.MyDirectory.SetPath("c:\\site");
-  Open(" c:\\site\\a.html");
-  EXPECT_EQ(desktop.lastFileRequest.initialDirectory, "c:\\site\\");
-  EXPECT_EQ(desktop.lastFileRequest.filter.substr(0, 45),
-            "HTML Files|*.html;*.htm|JavaScripts|*.js|VBSc");
-  ExpectState(" c:\\site\\a.html", "é a", false);
-  Open("c:\\site\\a.html");
-  EXPECT_EQ(form.MyDirectory.Path(), "c:\\site");
-  EXPECT_EQ(form.MyTabFiles.TabCaption(0), "a.html");
-  EXPECT_FALSE(form.cmdSave.Enabled());
-  program.Pane().Type("x");
-  EXPECT_TRUE(form.cmdSave.Enabled());
-}
-
 TEST_F(Document, KeepsNameTextAndPlaceOfTheOldDocumentWhenALoadFails) {
   Open("c:\\site\\a.html");
-  desktop.files.AddFile("c:\\other\\999999.html", std::string(999999, 'x'));
-  desktop.files.AddFile("c:\\other\\1000000.html", std::string(1000000, 'x'));
   desktop.files.AddFile("c:\\other\\secret.html", "s");
   desktop.files.SetFault("c:\\other\\secret.html", MemoryFiles::Fault::kUnreadable);
 
@@ -100,16 +84,8 @@ TEST_F(Document, KeepsNameTextAndPlaceOfTheOldDocumentWhenALoadFails) {
   EXPECT_EQ(form.mnuRecentlyUsed(0).Caption(), "c:\\other\\secret.html");
   EXPECT_EQ(form.MyDirectory.Path(), "c:\\other");
 
-  desktop.ExpectMsgBox(kOpening, kPromptFlags, kPromptTitle, kNo);
-  desktop.ExpectOpenFile("c:\\other\\1000000.html");
-  desktop.ExpectMsgBox("The File Is Too Large For Tagsmith", kInformationIcon, "Sorry...");
-  form.mnuFileOpen.Click();
-  ExpectState("c:\\site\\a.html", "öé a", false);
   form.mnuFileSave.Click();
   EXPECT_EQ(desktop.files.Contents("c:\\site\\a.html"), "öé a\r\n");
-
-  Open("c:\\other\\999999.html");
-  EXPECT_EQ(form.DocumentName(), "c:\\other\\999999.html");
 }
 
 TEST_F(Document, PromptGuardsEditsAndCancelChangesNothing) {
@@ -162,10 +138,10 @@ TEST_F(Document, SaveAsNamesTheDocumentAfterItsNewFile) {
   ExpectState("c:\\site\\c", text, false);
   EXPECT_EQ(desktop.files.Contents("c:\\site\\c"), text + "\r\n");
   EXPECT_EQ(form.MyFileList.ListCount(), 3);
-  EXPECT_EQ(form.mnuRecentlyUsed(0).Caption(), "c:\\site\\c");
   EXPECT_FALSE(form.cmdSave.Enabled());
 
   program.Pane().Type("y");
+  EXPECT_TRUE(form.cmdSave.Enabled());
   desktop.files.SetFault("c:\\site", MemoryFiles::Fault::kDiskFull);
   desktop.ExpectSaveFile("c:\\site\\d");
   form.mnuFileSaveAs.Click();
@@ -222,12 +198,6 @@ TEST_F(Document, ClosesAndStartsAnewWhenThePaneGetsTheFocus) {
   program.Pane().Undo();
   EXPECT_EQ(form.txtEdit.Text(), "");
   EXPECT_EQ(form.DocumentEncoding(), TextEncoding::kUtf8);
-
-  form.mnuFileClose.Click();
-  desktop.ExpectMsgBox("There Is No Document To Save", kInformationIcon, "Save Aborted...");
-  form.mnuFileSave.Click();
-  ExpectState("Ready...", "", false);
-
   form.txtEdit.UserFocus();
   ExpectState("Untitled.html", kTemplate, false);
   EXPECT_FALSE(form.cmdSave.Enabled());
@@ -236,10 +206,6 @@ TEST_F(Document, ClosesAndStartsAnewWhenThePaneGetsTheFocus) {
   desktop.ExpectMsgBox("There Is No Document To Save", kInformationIcon, "Save Aborted...");
   form.cmdSave.Click();
   ExpectState("Untitled.html", kTemplate, false);
-
-  desktop.ExpectMsgBox("This feature is coming soon to a Tagsmith near you", kInformationIcon,
-                       "Save As Unix");
-  form.mnuSaveAsUnix.Click();
 }
 
 TEST_F(Document, AnInsertionIsNeverLostToTheDocumentThatItStarts) {
@@ -249,18 +215,28 @@ TEST_F(Document, AnInsertionIsNeverLostToTheDocumentThatItStarts) {
 
   form.SetDocumentChanged(false);
   form.mnuFileClose.Click();
-  form.InsertAround("<Ü>", "</Ü>");
-  ExpectState("Untitled.html", "<Ü></Ü>" + std::string(kTemplate), true);
-  EXPECT_EQ(form.txtEdit.SelStart(), std::string_view("<Ü>").size());
-
-  form.SetDocumentChanged(false);
-  form.mnuFileClose.Click();
   form.ReplaceDocument("whole pägé");
   ExpectState("Untitled.html", "whole pägé", false);
   EXPECT_TRUE(form.txtEdit.HasFocus());
   EXPECT_FALSE(form.cmdSave.Enabled());
   program.Pane().Undo();
   EXPECT_EQ(form.txtEdit.Text(), "whole pägé");
+}
+
+TEST_F(Document, TheEndAsksForEditsAndTakesTheOtherFormsAlong) {
+  program.app.Instance<frmSplash>().Show();
+  EditAndExpectPrompt("Save Current Before Closing?", kCancel);
+  form.mnuFileExit.Click();
+  EXPECT_TRUE(form.IsLoaded());
+  EXPECT_FALSE(desktop.settings.values.contains("Settings/Drive"));
+  EXPECT_NE(program.app.platform.forms.Loaded<frmSplash>(), nullptr);
+
+  EditAndExpectPrompt("Save Current Before Closing?", kYes);
+  desktop.ExpectSaveFile(std::nullopt);
+  form.UserClose();
+  EXPECT_FALSE(form.IsLoaded());
+  EXPECT_TRUE(desktop.settings.values.contains("Settings/RU9"));
+  EXPECT_EQ(program.app.platform.forms.Loaded<frmSplash>(), nullptr);
 }
 
 }  // namespace

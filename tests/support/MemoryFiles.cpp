@@ -47,10 +47,6 @@ void MemoryFiles::AddDirectory(std::string_view path) {
   for (std::string at = Bare(path); !at.empty(); at = ParentOf(at)) tree_[at].isDirectory = true;
 }
 
-void MemoryFiles::AddDrive(char letter, std::string_view label, std::string_view root) {
-  drives_.push_back({letter, std::string(label), std::string(root)});
-}
-
 void MemoryFiles::Remove(std::string_view path) {
   const std::string bare = Bare(path);
   std::erase_if(tree_, [&bare](const auto& entry) {
@@ -60,10 +56,7 @@ void MemoryFiles::Remove(std::string_view path) {
 
 void MemoryFiles::SetFault(std::string_view path, Fault fault) {
   const auto found = tree_.find(Bare(path));
-  if (found == tree_.end()) {
-    ADD_FAILURE() << "no such file or folder: " << path;
-    return;
-  }
+  ASSERT_NE(found, tree_.end()) << "no such file or folder: " << path;
   found->second.fault = fault;
 }
 
@@ -72,14 +65,6 @@ std::string MemoryFiles::Contents(std::string_view path) const {
   if (found != tree_.end() && !found->second.isDirectory) return found->second.bytes;
   ADD_FAILURE() << "no such file: " << path;
   return {};
-}
-
-std::vector<std::string> MemoryFiles::AllFiles() const {
-  std::vector<std::string> paths;
-  for (const auto& [path, entry] : tree_) {
-    if (!entry.isDirectory) paths.push_back(path);
-  }
-  return paths;
 }
 
 // --- FileSystem ---
@@ -133,14 +118,6 @@ std::vector<std::string> MemoryFiles::NamesIn(std::string_view directory, bool d
   return names;
 }
 
-std::vector<std::string> MemoryFiles::DirectoryNames(std::string_view directory) const {
-  return NamesIn(directory, true);
-}
-
-std::vector<std::string> MemoryFiles::FileNames(std::string_view directory) const {
-  return NamesIn(directory, false);
-}
-
 bool MemoryFiles::FileExists(std::string_view path) const noexcept {
   try {
     const auto found = Find(path);
@@ -173,27 +150,6 @@ void MemoryFiles::WriteFile(std::string_view path, std::string_view bytes, Durab
   if (entry.isDirectory) Fail(ErrorCode::kNotARegularFile, "Not a file", path);
   entry.bytes = bytes;
   lastDurability_ = durability;
-}
-
-void MemoryFiles::CopyFile(std::string_view from, std::string_view to) {
-  WriteFile(to, *ReadFile(from, std::string::npos), Durability::kWritten);
-}
-
-void MemoryFiles::Rename(std::string_view from, std::string_view to) {
-  const std::string oldPath = Full(from, CurrentDirectory());
-  const std::string newPath = Full(to, CurrentDirectory());
-  if (oldPath == newPath) return;
-  if (!tree_.contains(oldPath)) Fail(ErrorCode::kFileNotFound, "File not found", from);
-  if (tree_.contains(newPath)) Fail(ErrorCode::kOther, "File exists", to);
-  if (tree_[oldPath].fault == Fault::kNotWritable) {
-    Fail(ErrorCode::kPermissionDenied, "Permission denied", from);
-  }
-  Tree moved;
-  for (auto& [path, entry] : tree_) {
-    const bool moves = path == oldPath || path.starts_with(oldPath + "\\");
-    moved[moves ? newPath + path.substr(oldPath.size()) : path] = std::move(entry);
-  }
-  tree_ = std::move(moved);
 }
 
 }  // namespace tagsmith

@@ -23,15 +23,15 @@ class MemoryFiles : public FileSystem {
   /// Folders above are made as needed.
   void AddFile(std::string_view path, std::string_view bytes);
   void AddDirectory(std::string_view path);
-  void AddDrive(char letter, std::string_view label, std::string_view root);
+  void AddDrive(char letter, std::string_view label, std::string_view root) {
+    drives_.push_back({letter, std::string(label), std::string(root)});
+  }
   /// Removes the file or the folder with all it holds.
   void Remove(std::string_view path);
   /// What goes wrong at this path from now on; for a folder, with new files in it.
   void SetFault(std::string_view path, Fault fault);
   /// The file's bytes; fails the test if it is not there under exactly this name.
   std::string Contents(std::string_view path) const;
-  /// The full paths of all files, sorted.
-  std::vector<std::string> AllFiles() const;
   /// How far the last written file was to get.
   Durability LastDurability() const { return lastDurability_; }
 
@@ -40,13 +40,22 @@ class MemoryFiles : public FileSystem {
   std::vector<Drive> Drives() const override { return drives_; }
   std::string CurrentDirectory() const override { return "c:\\"; }
   std::string ResolveDirectory(std::string_view path, std::string_view base) const override;
-  std::vector<std::string> DirectoryNames(std::string_view directory) const override;
-  std::vector<std::string> FileNames(std::string_view directory) const override;
+  std::vector<std::string> DirectoryNames(std::string_view directory) const override {
+    return NamesIn(directory, true);
+  }
+  std::vector<std::string> FileNames(std::string_view directory) const override {
+    return NamesIn(directory, false);
+  }
   bool FileExists(std::string_view path) const noexcept override;
   std::optional<std::string> ReadFile(std::string_view path, std::size_t limit) const override;
   void WriteFile(std::string_view path, std::string_view bytes, Durability durability) override;
-  void CopyFile(std::string_view from, std::string_view to) override;
-  void Rename(std::string_view from, std::string_view to) override;
+  void CopyFile(std::string_view from, std::string_view to) override {
+    WriteFile(to, *ReadFile(from, std::string::npos), Durability::kWritten);
+  }
+  void Rename(std::string_view from, std::string_view to) override {
+    CopyFile(from, to);
+    Remove(from);
+  }
 
  private:
   struct Entry {

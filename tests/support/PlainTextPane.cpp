@@ -24,30 +24,12 @@ void PlainTextPane::Type(std::string_view text) {
 }
 
 void PlainTextPane::PressKey(int keyAscii, std::string_view text) {
-  if (listener_ != nullptr && !listener_->UserKeyPress(keyAscii)) return;
-  if (keyAscii != '\b') {
-    UserReplace(selection_, text);
-    return;
-  }
-  if (selection_.length == 0 && selection_.start > 0) {
-    const std::size_t start = Snap(selection_.start - 1);
-    selection_ = {start, selection_.start - start};
-  }
-  if (selection_.length > 0) UserReplace(selection_, {});
+  if (listener_ == nullptr || listener_->UserKeyPress(keyAscii)) UserReplace(selection_, text);
 }
 
 void PlainTextPane::PressKeys(std::string_view keys) {
-  constexpr std::size_t kCombination = std::string_view("^(z)").size();
-  while (!keys.empty()) {
-    if (keys.starts_with("^(") && keys.size() >= kCombination) {
-      Press(keys[2]);
-      keys.remove_prefix(kCombination);
-      continue;
-    }
-    const std::size_t length = std::max<std::size_t>(DecodeUtf8(keys, 0).length, 1);
-    Type(keys.substr(0, length));
-    keys.remove_prefix(length);
-  }
+  const bool isControlKey = keys.size() == 4 && keys.starts_with("^(");
+  isControlKey ? Press(keys[2]) : Type(keys);
 }
 
 void PlainTextPane::Press(char controlKey) {

@@ -18,10 +18,9 @@ class PlainTextPane final : public TextPane {
 
   // --- The user ---
 
-  /// Types a text key by key: a line end is the Enter key, "\b" Backspace.
+  /// Types a text key by key: a line end is the Enter key.
   void Type(std::string_view text);
-  /// Presses keys as `Keyboard::SendKeys` spells them: "^(z)", "^(x)", "^(c)" and "^(v)", anything
-  /// else is typed. The clipboard's keys need the clipboard.
+  /// Presses "^(z)", "^(x)", "^(c)" or "^(v)", which need the clipboard; all else is typed.
   void PressKeys(std::string_view keys);
 
   // --- The pane ---

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "services/Error.h"
 #include "services/RichTextBox.h"
 #include "support/PlainTextPane.h"
 
@@ -20,12 +19,6 @@ std::string InputBoxQuestion(std::string_view prompt, std::string_view title,
   return "input box" + Quoted(prompt) + Quoted(title) + Quoted(initial);
 }
 
-constexpr const char* kOpenDialog = "the open dialog";
-constexpr const char* kSaveDialog = "the save dialog";
-constexpr const char* kColourDialog = "the colour dialog";
-constexpr const char* kFontDialog = "the font dialog";
-constexpr const char* kModalForm = "a modal form";
-
 class SizedPicture : public Picture {
  public:
   explicit SizedPicture(std::pair<int, int> size) : size_(std::move(size)) {}
@@ -36,34 +29,7 @@ class SizedPicture : public Picture {
   std::pair<int, int> size_;
 };
 
-std::string DateText(const char* form, const LocalTime& time) {
-  return std::string(form) + " " + std::to_string(time.day) + "." + std::to_string(time.month) +
-         "." + std::to_string(time.year);
-}
-
 }  // namespace
-
-// --- Clipboard, settings, calendar ---
-
-void MemoryClipboard::CheckOpen() const {
-  if (broken) throw Error(ErrorCode::kOther, "Cannot open the clipboard");
-}
-
-std::string MemoryClipboard::GetText() const {
-  CheckOpen();
-  return text;
-}
-
-void MemoryClipboard::SetText(std::string_view newText) {
-  CheckOpen();
-  text = newText;
-  history.push_back(text);
-}
-
-void MemoryClipboard::Clear() {
-  CheckOpen();
-  text.clear();
-}
 
 std::string MemorySettings::GetSetting(std::string_view application, std::string_view section,
                                        std::string_view key, std::string_view fallback) const {
@@ -78,17 +44,6 @@ void MemorySettings::SaveSetting(std::string_view application, std::string_view 
   values[std::string(section).append("/").append(key)] = value;
 }
 
-std::string FixedCalendar::LongDate(const LocalTime& time) const { return DateText("läng", time); }
-std::string FixedCalendar::MediumDate(const LocalTime& time) const {
-  return DateText("medium", time);
-}
-std::string FixedCalendar::ShortDate(const LocalTime& time) const {
-  return DateText("short", time);
-}
-std::string FixedCalendar::GeneralDate(const LocalTime& time) const {
-  return DateText("general", time) + " " + std::to_string(time.hour);
-}
-
 // --- Windows ---
 
 class ScriptedDesktop::ScriptedFormView : public FormView {
@@ -96,8 +51,7 @@ class ScriptedDesktop::ScriptedFormView : public FormView {
   ScriptedFormView(ScriptedDesktop& desktop, Form& form) : desktop_(desktop), form_(form) {}
 
   void Show() override { Log("Show"); }
-  void RunModal(Form* owner) override {
-    static_cast<void>(owner);
+  void RunModal(Form* /*owner*/) override {
     Log("RunModal");
     desktop_.RunModal(form_);
   }
@@ -129,7 +83,9 @@ ScriptedDesktop::ScriptedDesktop()
   files.AddDirectory("c:\\tagsmith");
 }
 
-ScriptedDesktop::~ScriptedDesktop() { ExpectNothingLeft(); }
+ScriptedDesktop::~ScriptedDesktop() {
+  for (const Step& step : steps_) ADD_FAILURE() << "never asked: " << step.question;
+}
 
 std::unique_ptr<FormView> ScriptedDesktop::MakeFormView(Form& form) {
   return std::make_unique<ScriptedFormView>(*this, form);
@@ -140,7 +96,7 @@ std::unique_ptr<TextPane> ScriptedDesktop::MakeTextPane() {
 }
 
 void ScriptedDesktop::RunModal(Form& form) {
-  auto act = Answer<std::function<void(Form&)>>(kModalForm, {});
+  auto act = Answer<std::function<void(Form&)>>("a modal form", {});
   if (act) act(form);
   if (!form.IsVisible()) return;
   if (act) ADD_FAILURE() << form.Name() << " was left open";
@@ -153,10 +109,6 @@ void ScriptedDesktop::NotExpected(const std::string& question) {
   ADD_FAILURE() << "not expected: " << question;
 }
 
-void ScriptedDesktop::Expect(std::string question, std::any answer) {
-  steps_.push_back({std::move(question), std::move(answer)});
-}
-
 std::any ScriptedDesktop::Ask(const std::string& question) {
   if (steps_.empty() || steps_.front().question != question) {
     NotExpected(question + (steps_.empty() ? "" : ", but " + steps_.front().question));
@@ -165,17 +117,6 @@ std::any ScriptedDesktop::Ask(const std::string& question) {
   std::any answer = std::move(steps_.front().answer);
   steps_.pop_front();
   return answer;
-}
-
-template <class T>
-T ScriptedDesktop::Answer(const std::string& question, T fallback) {
-  std::any answer = Ask(question);
-  return answer.has_value() ? std::any_cast<T>(std::move(answer)) : fallback;
-}
-
-void ScriptedDesktop::ExpectNothingLeft() {
-  for (const Step& step : steps_) ADD_FAILURE() << "never asked: " << step.question;
-  steps_.clear();
 }
 
 void ScriptedDesktop::ExpectMsgBox(std::string_view prompt, int flags, std::string_view title,
@@ -188,69 +129,22 @@ void ScriptedDesktop::ExpectInputBox(std::string_view prompt, std::string_view t
   Expect(InputBoxQuestion(prompt, title, initial), std::string(answer));
 }
 
-void ScriptedDesktop::ExpectOpenFile(std::optional<std::string> path) {
-  Expect(kOpenDialog, std::move(path));
-}
-
-void ScriptedDesktop::ExpectSaveFile(std::optional<std::string> path) {
-  Expect(kSaveDialog, std::move(path));
-}
-
-void ScriptedDesktop::ExpectColour(std::optional<Colour> colour) { Expect(kColourDialog, colour); }
-
-void ScriptedDesktop::ExpectFont(std::optional<FontSpec> font) {
-  Expect(kFontDialog, std::move(font));
-}
-
-int ScriptedDesktop::MsgBox(Form& owner, std::string_view prompt, int flags,
+int ScriptedDesktop::MsgBox(Form& /*owner*/, std::string_view prompt, int flags,
                             std::string_view title) {
-  static_cast<void>(owner);
   return Answer(MsgBoxQuestion(prompt, flags, title), kCancel);
 }
 
-std::string ScriptedDesktop::InputBox(Form& owner, std::string_view prompt, std::string_view title,
-                                      std::string_view initial) {
-  static_cast<void>(owner);
+std::string ScriptedDesktop::InputBox(Form& /*owner*/, std::string_view prompt,
+                                      std::string_view title, std::string_view initial) {
   return Answer(InputBoxQuestion(prompt, title, initial), std::string());
-}
-
-std::optional<std::string> ScriptedDesktop::OpenFile(Form& owner,
-                                                     const FileDialogRequest& request) {
-  static_cast<void>(owner);
-  lastFileRequest = request;
-  return Answer(kOpenDialog, std::optional<std::string>());
-}
-
-std::optional<std::string> ScriptedDesktop::SaveFile(Form& owner,
-                                                     const FileDialogRequest& request) {
-  static_cast<void>(owner);
-  lastFileRequest = request;
-  return Answer(kSaveDialog, std::optional<std::string>());
-}
-
-std::optional<Colour> ScriptedDesktop::PickColour(Form& owner, Colour start) {
-  static_cast<void>(owner);
-  static_cast<void>(start);
-  return Answer(kColourDialog, std::optional<Colour>());
-}
-
-std::optional<FontSpec> ScriptedDesktop::PickFont(Form& owner, const FontSpec& start) {
-  static_cast<void>(owner);
-  static_cast<void>(start);
-  return Answer(kFontDialog, std::optional<FontSpec>());
 }
 
 // --- Keys, events, pictures ---
 
 void ScriptedDesktop::SendKeys(std::string_view keys) {
-  sentKeys.emplace_back(keys);
   const Form* active = platform.forms.Active();
   auto* box = active == nullptr ? nullptr : dynamic_cast<RichTextBox*>(active->ActiveControl());
   if (box != nullptr) dynamic_cast<PlainTextPane&>(box->Pane()).PressKeys(keys);
-}
-
-void ScriptedDesktop::DoEvents() {
-  if (onDoEvents) onDoEvents();
 }
 
 void ScriptedDesktop::AddPicture(std::string_view path, int width, int height) {

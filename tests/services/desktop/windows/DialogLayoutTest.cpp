@@ -5,7 +5,6 @@
 
 #include "services/Buttons.h"
 #include "services/ControlArray.h"
-#include "services/FileBoxes.h"
 #include "services/Graphics.h"
 #include "services/Lists.h"
 #include "services/MSFlexGrid.h"
@@ -20,18 +19,12 @@ class Dialog : public ShownForm {
  public:
   explicit Dialog(Screen& screen) : ShownForm(screen) {
     txtLines.SetMultiLine(true);
-    picSketch.SetWidth(1455);
-    picSketch.SetHeight(1455);
-    shpMark.SetContainer(picSketch);
-    shpMark.Move({0, 0, 375, 1455});
     cmdInsert.SetCaption("&Insert The Whole Thing");
     cmdCancel.SetCaption("Cancel");
-    cmdChange.SetCaption("Change");
     SetArrangement(Column({
         Grid(2, {lblName(0), txtName(0), lblName(1), txtName(1), lblName(2),
                  Row({shpColor, cmdChange})}),
-        Row({Group(fraKind, Column({optKind(0), optKind(1), chkNamed})),
-             Column({sldRows, MyProgress, cboAlign, MyDrive}), picSketch}),
+        Row({Group(fraKind, Column({optKind(0), optKind(1)})), Column({sldRows, cboAlign})}),
         Row({grid, lstNames}),
         txtLines,
         ButtonRow({cmdInsert, cmdCancel}),
@@ -44,13 +37,8 @@ class Dialog : public ShownForm {
   CommandButton cmdChange{*this, "cmdChange"};
   Frame fraKind{*this, "fraKind", "Choose a Type of List"};
   ControlArray<OptionButton> optKind{*this, "optKind", 2, std::string("Uppercase Letters")};
-  CheckBox chkNamed{*this, "chkNamed", "Use A Named Color"};
   Slider sldRows{*this, "sldRows", Orientation::kHorizontal, 1, 25};
-  ProgressBar MyProgress{*this, "MyProgress"};
   ComboBox cboAlign{*this, "cboAlign", ComboStyle::kDropDownCombo, true};
-  DriveListBox MyDrive{*this, "MyDrive"};
-  PictureBox picSketch{*this, "picSketch"};
-  Shape shpMark{*this, "shpMark"};
   MSFlexGrid grid{*this, "grid", 2, 2};
   ListBox lstNames{*this, "lstNames", true};
   TextBox txtLines{*this, "txtLines"};
@@ -90,9 +78,7 @@ TEST_P(DialogLayout, NothingIsCutOrOverlaps) {
         qobject_cast<QLabel*>(widget) != nullptr ? widget->sizeHint() : widget->minimumSizeHint();
     EXPECT_GE(widget->width(), least.width()) << control->Name();
     EXPECT_GE(widget->height(), least.height()) << control->Name();
-    if (control != &form->shpMark && control != &form->fraKind) {
-      places.emplace_back(control->Name(), Place(*control));
-    }
+    if (control != &form->fraKind) places.emplace_back(control->Name(), Place(*control));
   }
   for (std::size_t i = 0; i < places.size(); ++i) {
     for (std::size_t j = 0; j < i; ++j) {
@@ -100,20 +86,6 @@ TEST_P(DialogLayout, NothingIsCutOrOverlaps) {
           << places[i].first << " and " << places[j].first;
     }
   }
-}
-
-TEST_P(DialogLayout, SizesFollowTheKinds) {
-  EXPECT_GE(Place(form->txtName(0)).height(), form->Widget(form->txtName(0))->sizeHint().height());
-  EXPECT_EQ(Place(form->txtName(0)).left(), Place(form->txtName(1)).left());
-  for (int row = 0; row < 2; ++row) {
-    EXPECT_NEAR(Place(form->lblName(row)).center().y(), Place(form->txtName(row)).center().y(), 1);
-  }
-  EXPECT_EQ(Place(form->cmdInsert).width(), Place(form->cmdCancel).width());
-  EXPECT_NEAR(Place(form->cmdCancel).right(), Place(form->txtLines).right(), 1);
-  const QRect sketch = Place(form->picSketch);
-  EXPECT_EQ(sketch.width(), sketch.height());
-  EXPECT_NEAR(Place(form->shpMark).width() * 1455, sketch.width() * 375, 1455);
-  EXPECT_EQ(form->Widget(form->optKind(0))->parentWidget(), form->Widget(form->fraKind));
 }
 
 TEST_P(DialogLayout, TabGoesThroughTheLeavesInTheirOrder) {
@@ -126,9 +98,8 @@ TEST_P(DialogLayout, TabGoesThroughTheLeavesInTheirOrder) {
     QTest::keyClick(now, Qt::Key_Tab);
     now = QApplication::focusWidget();
   } while (now != first && order.size() < 30);
-  EXPECT_EQ(order, (Strings{"txtName_0", "txtName_1", "cmdChange", "optKind_0", "chkNamed",
-                            "sldRows", "cboAlign", "MyDrive", "grid", "lstNames", "txtLines",
-                            "cmdInsert", "cmdCancel"}));
+  EXPECT_EQ(order, (Strings{"txtName_0", "txtName_1", "cmdChange", "optKind_0", "sldRows",
+                            "cboAlign", "grid", "lstNames", "txtLines", "cmdInsert", "cmdCancel"}));
 }
 
 }  // namespace

@@ -65,6 +65,25 @@ class ShownForm : public Form {
   }
 };
 
+/// A sizable form whose controls, unless they are moved again, stand below each other.
+class ProbeForm : public ShownForm {
+ public:
+  explicit ProbeForm(Screen& screen) : ShownForm(screen) {
+    SetBorder(BorderStyle::kSizable);
+    SetWidth(10500);
+    SetHeight(9000);
+  }
+
+ protected:
+  void StackControls() {
+    Twips top = 0;
+    for (Control* control : Controls()) {
+      control->Move({0, top, 6000, 500});
+      top += 500;
+    }
+  }
+};
+
 using Strings = std::vector<std::string>;
 
 }  // namespace tagsmith
