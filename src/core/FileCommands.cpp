@@ -166,6 +166,8 @@ void FileCommands::SaveAs() {
   dialog.initDir = AddBackslash(form_.MyDirectory.Path());
   dialog.filter = application_.gFileFilter;
   dialog.flags = 0;
+  // Not the name chosen last time, which may be another page's.
+  dialog.fileName = form_.HasDocument() ? form_.DocumentName() : std::string();
   if (!dialog.ShowSave() || dialog.fileName.empty()) return;
   const std::string path = dialog.fileName;
   const Hourglass hourglass(form_);

@@ -176,8 +176,11 @@ void frmMain::lblResizer_MouseMove(Twips x) {
 // --- The document ---
 
 void frmMain::SetDocumentName(std::string_view name) {
+  const bool wasClosed = !HasDocument();
   sbStatusBar.SetSimpleText(name);
   name == kNoDocument ? SetCaption(kApplicationTitle) : ShowInCaption(name);
+  // Closing took the focus off the pane: whoever opens a document then means to type in it.
+  if (wasClosed && HasDocument() && ActiveControl() == nullptr) txtEdit.SetFocus();
 }
 
 void frmMain::ShowInCaption(std::string_view name) {

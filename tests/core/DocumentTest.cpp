@@ -166,6 +166,13 @@ TEST_F(Document, FailedSaveOffersAnotherPlace) {
   ExpectState("c:\\elsewhere.html", "üé a", false);
 }
 
+TEST_F(Document, OpensIntoAPaneThatTakesTheKeys) {
+  form.mnuFileClose.Click();
+  Open("c:\\site\\a.html");
+  EXPECT_TRUE(form.txtEdit.HasFocus());
+  ExpectState("c:\\site\\a.html", "é a", false);
+}
+
 // A drop or a middle click reaches the pane before its focus does.
 TEST_F(Document, KeepsWhatTheUserPutsIntoAClosedPane) {
   form.mnuFileClose.Click();

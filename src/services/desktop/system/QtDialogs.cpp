@@ -9,6 +9,7 @@
 #include <QFontDialog>
 #include <QFontInfo>
 #include <QMessageBox>
+#include <memory>
 #include <utility>
 
 #include "services/Platform.h"
@@ -139,6 +140,27 @@ FontSpec FromQFont(const QFont& chosen, const FontSpec& start) {
           chosen.strikeOut()};
 }
 
+// Another family that lacks the present style is shown in its first one, which may well be oblique:
+// the style of that family that is nearest to the present weight and slant is chosen instead.
+void KeepStyleAcrossFamilies(QFontDialog& dialog) {
+  auto last = std::make_shared<QFont>(dialog.currentFont());
+  QObject::connect(&dialog, &QFontDialog::currentFontChanged, &dialog,
+                   [&dialog, last](const QFont& font) {
+                     const bool newFamily = font.family() != last->family();
+                     const bool newSlant = font.italic() != last->italic();
+                     if (newFamily && newSlant) {
+                       QFont wanted = font;
+                       wanted.setStyleName({});
+                       wanted.setWeight(last->weight());
+                       wanted.setItalic(last->italic());
+                       *last = AsInstalled(wanted);
+                       dialog.setCurrentFont(*last);
+                     } else {
+                       *last = font;
+                     }
+                   });
+}
+
 // --- Files ---
 
 // Some native dialogs have no title of their own.
@@ -147,16 +169,25 @@ QString FileTitleOf(const FileDialogRequest& request, bool saving) {
   return saving ? QStringLiteral("Save As") : QStringLiteral("Open");
 }
 
+// The directory itself, or the nearest above it that is there.
+QString NearestDirectory(QString directory) {
+  while (!QDir(directory).exists()) {
+    const QString above = QFileInfo(QDir::cleanPath(directory)).path();
+    if (above == directory) break;
+    directory = above;
+  }
+  return directory;
+}
+
 // A name chosen earlier is offered again only where it lies: in another directory it would name
 // another file.
 void SetStart(QFileDialog& dialog, const QString& directory, const QString& fileName) {
   const QFileInfo file(fileName);
   const bool isBare = file.fileName() == fileName;
   const QString start = directory.isEmpty() && !isBare ? file.path() : directory;
-  if (!start.isEmpty() && QDir(start).exists()) dialog.setDirectory(start);
-  if (!fileName.isEmpty() && (isBare || QDir(start) == QDir(file.path()))) {
-    dialog.selectFile(file.fileName());
-  }
+  if (!start.isEmpty()) dialog.setDirectory(NearestDirectory(start));
+  const bool liesThere = QDir(start) == QDir(file.path()) && QDir(start).exists();
+  if (!fileName.isEmpty() && (isBare || liesThere)) dialog.selectFile(file.fileName());
 }
 
 }  // namespace
@@ -230,6 +261,7 @@ std::optional<FontSpec> QtDialogs::PickFont(Form& owner, const FontSpec& start) 
   ModalDialog dialog(new QFontDialog(AsInstalled(ToQFont(start)), ParentFor(owner)));
   // Native ones know neither underline nor strike-out.
   dialog->setOption(QFontDialog::DontUseNativeDialog);
+  KeepStyleAcrossFamilies(*dialog);
   if (dialog.Run() != QDialog::Accepted) return std::nullopt;
   return FromQFont(dialog->selectedFont(), start);
 }
