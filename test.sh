@@ -6,7 +6,7 @@ root=$(cd "$(dirname "$0")" && pwd)
 
 # Real pages for the load-and-save test come from documentation packages; the desktop test works
 # the program in a real window.
-TEST_PACKAGES="xauth xvfb xdotool openbox imagemagick debian-faq debian-policy git-doc sqlite3-doc
+TEST_PACKAGES="xauth xvfb xdotool openbox x11-utils imagemagick debian-faq debian-policy git-doc sqlite3-doc
     libjs-jquery libjs-bootstrap php-pear"
 
 install_packages $BUILD_PACKAGES $TEST_PACKAGES

@@ -17,10 +17,8 @@ folder=$TAGSMITH_TEST_FOLDER
 export HOME="$folder" XDG_CONFIG_HOME="$folder/config" XDG_RUNTIME_DIR="$folder"
 unset QT_QPA_PLATFORM
 chmod 700 "$folder"
-openbox >/dev/null 2>&1 &
 
 fail() {
-    import -window root "$folder/../tagsmith-failed.png" 2>/dev/null || true
     echo "FAILED: $1" >&2
     exit 1
 }
@@ -85,6 +83,13 @@ expect_file() {
         fail "$1 is not as expected"
     }
 }
+
+# A window that comes up while the window manager is still starting can be lost.
+manager_is_up() {
+    xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'
+}
+openbox >/dev/null 2>&1 &
+within 20 manager_is_up || fail "no window manager"
 
 page="$folder/a page.html"
 printf '<P>first</P>\r\n<P>second</P>\r\n' >"$page"

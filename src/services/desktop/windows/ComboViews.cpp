@@ -1,6 +1,7 @@
 #include "services/desktop/windows/ComboViews.h"
 
 #include <QAbstractItemView>
+#include <QFocusEvent>
 #include <QLineEdit>
 #include <QStyle>
 #include <QWheelEvent>
@@ -23,6 +24,9 @@ PlainCombo::PlainCombo(EntrySource source, QWidget& parent)
   setMaxVisibleItems(kVisibleEntries);
   setMinimumContentsLength(kLeastLetters);
   setModel(entries_);
+  // A style may ask for a menu as tall as the screen instead, which knows no most rows. Said here
+  // it holds on top of the application's style, whichever that is or becomes.
+  setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
 }
 
 void PlainCombo::SetTyping(bool typing) {
@@ -39,6 +43,13 @@ void PlainCombo::showPopup() {
   const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &list);
   list.setMinimumWidth(std::max(width(), list.sizeHintForColumn(0) + bar));
   QComboBox::showPopup();
+}
+
+// The field would lose its selection to the menu bar, and with it what Edit > Copy is about.
+void PlainCombo::focusOutEvent(QFocusEvent* event) {
+  const bool toMenu = event->reason() == Qt::MenuBarFocusReason;
+  QFocusEvent told(QEvent::FocusOut, toMenu ? Qt::PopupFocusReason : event->reason());
+  QComboBox::focusOutEvent(&told);
 }
 
 void PlainCombo::wheelEvent(QWheelEvent* event) { event->ignore(); }

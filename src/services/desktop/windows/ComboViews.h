@@ -10,7 +10,8 @@
 namespace tagsmith {
 
 /// A combo box that takes typed text as it is: nothing is completed, inserted or chosen by it, nor
-/// by the mouse wheel. Its list is as wide as its entries need.
+/// by the mouse wheel. Its list is as wide as its entries need, and scrolls where they are many.
+/// The menu bar leaves the selection in its field alone.
 class PlainCombo final : public QComboBox {
  public:
   PlainCombo(EntrySource source, QWidget& parent);
@@ -21,6 +22,7 @@ class PlainCombo final : public QComboBox {
   void showPopup() override;
 
  protected:
+  void focusOutEvent(QFocusEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
 
  private:

@@ -13,6 +13,7 @@ namespace {
 
 constexpr int kHintLetters = 24;
 constexpr int kHintRows = 11;
+constexpr int kIconMargin = 2;  // Above and below an icon, together.
 
 /// Draws a row further right the deeper its entry lies.
 class IndentedRows final : public QStyledItemDelegate {
@@ -25,6 +26,12 @@ class IndentedRows final : public QStyledItemDelegate {
     const int step = option.fontMetrics.height() * 2 / 3;
     indented.rect.setLeft(option.rect.left() + step * index.data(EntryModel::kDepthRole).toInt());
     QStyledItemDelegate::paint(painter, indented, index);
+  }
+
+  // Lists with and without icons stand side by side.
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return QStyledItemDelegate::sizeHint(option, index)
+        .expandedTo({0, option.decorationSize.height() + kIconMargin});
   }
 };
 
@@ -50,7 +57,8 @@ EntryList::EntryList(EntrySource source, bool opensOnEnter, QWidget& parent)
 
 QSize EntryList::sizeHint() const {
   const QFontMetrics metrics = fontMetrics();
-  return {kHintLetters * metrics.averageCharWidth(), kHintRows * metrics.lineSpacing()};
+  return {kHintLetters * metrics.averageCharWidth(),
+          kHintRows * std::max(metrics.lineSpacing(), iconSize().height() + kIconMargin)};
 }
 
 void EntryList::ShowRow(int row) {

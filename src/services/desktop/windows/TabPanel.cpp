@@ -5,6 +5,8 @@
 #include <QWheelEvent>
 #include <algorithm>
 
+#include "services/desktop/windows/WidgetView.h"
+
 namespace tagsmith {
 namespace {
 
@@ -49,13 +51,48 @@ QSize TabStrip::minimumTabSizeHint(int index) const {
                      : QSize(std::min(hint.width(), kLeastTab), hint.height());
 }
 
-// Styles leave wide margins beside a tab's text; in a squeezed upright tab the text has them.
+void TabStrip::SetCaption(int index, const QString& caption, const QString& full) {
+  setTabData(index, full);
+  setTabText(index, caption);
+}
+
+QString TabStrip::ShownCaption(int index) const {
+  const QRect place = tabRect(index);
+  const int room = (IsUpright() ? place.height() : place.width()) - kTabMargin;
+  return fontMetrics().elidedText(tabText(index), elideMode(), room, Qt::TextShowMnemonic);
+}
+
+void TabStrip::tabLayoutChange() {
+  for (int i = 0; i < count(); ++i) {
+    const bool isCut = ShownCaption(i) != tabText(i);
+    setTabToolTip(i, isCut ? PlainToolTip(tabData(i).toString()) : QString());
+  }
+}
+
 void TabStrip::initStyleOption(QStyleOptionTab* option, int tabIndex) const {
   QTabBar::initStyleOption(option, tabIndex);
-  const int room = tabRect(tabIndex).height() - kTabMargin;
-  if (!IsUpright()) return;
-  option->text =
-      fontMetrics().elidedText(tabText(tabIndex), elideMode(), room, Qt::TextShowMnemonic);
+  if (side_ != TabSide::kTop) option->text = ShownCaption(tabIndex);
+}
+
+// Styles leave wide margins beside a tab's text and cut it there; in a squeezed tab the text has
+// them.
+void TabStrip::PaintTab(QStylePainter& painter, int index) const {
+  QStyleOptionTab tab;
+  initStyleOption(&tab, index);
+  painter.drawControl(QStyle::CE_TabBarTabShape, tab);
+  const int margin = style()->pixelMetric(QStyle::PM_TabBarTabHSpace, &tab, this);
+  const int gain = side_ == TabSide::kTop ? 0 : std::max(0, (margin - kTabMargin) / 2);
+  tab.rect += IsUpright() ? QMargins(0, gain, 0, gain) : QMargins(gain, 0, gain, 0);
+  painter.drawControl(QStyle::CE_TabBarTabLabel, tab);
+}
+
+// The present tab lies above its neighbours.
+void TabStrip::paintEvent(QPaintEvent* /*event*/) {
+  QStylePainter painter(this);
+  for (int i = 0; i < count(); ++i) {
+    if (i != currentIndex()) PaintTab(painter, i);
+  }
+  if (currentIndex() >= 0) PaintTab(painter, currentIndex());
 }
 
 void TabStrip::wheelEvent(QWheelEvent* event) { event->ignore(); }

@@ -6,24 +6,33 @@
 
 #include "services/SSTab.h"
 
+class QStylePainter;
+
 namespace tagsmith {
 
 /// The tabs of a panel: on one row, no thicker than their text needs, squeezed and cut in the
-/// middle where there is no room for all.
+/// middle where there is no room for all. At the left and at the bottom the tabs share its length.
 class TabStrip final : public QTabBar {
  public:
   TabStrip(TabSide side, QWidget* parent);
 
   int Thickness() const;
+  /// `full`, unless empty, is the tool tip while there is no room for the whole caption.
+  void SetCaption(int index, const QString& caption, const QString& full);
 
  protected:
   QSize tabSizeHint(int index) const override;
   QSize minimumTabSizeHint(int index) const override;
   void initStyleOption(QStyleOptionTab* option, int tabIndex) const override;
+  void paintEvent(QPaintEvent* event) override;
+  void tabLayoutChange() override;
   void wheelEvent(QWheelEvent* event) override;
 
  private:
   bool IsUpright() const { return side_ == TabSide::kLeft; }
+  /// Its caption as far as there is room for it.
+  QString ShownCaption(int index) const;
+  void PaintTab(QStylePainter& painter, int index) const;
 
   TabSide side_;
 };

@@ -34,7 +34,8 @@ void TabView::UpdateCaptions() {
   for (int i = 0; i < model_.Tabs(); ++i) {
     const std::string& caption = model_.TabCaption(i);
     const QString text = model_.PlainCaptions() ? WithoutAccessKey(caption) : ToQString(caption);
-    if (panel_->Strip().tabText(i) != text) panel_->Strip().setTabText(i, text);
+    const QString full = model_.PlainCaptions() ? ToQString(caption) : QString();
+    if (panel_->Strip().tabText(i) != text) panel_->Strip().SetCaption(i, text, full);
   }
 }
 

@@ -16,13 +16,6 @@ bool IsUsersDoing(Qt::FocusReason reason) {
          reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
 }
 
-// A tool tip is plain text, whatever tags it shows.
-QString PlainToolTip(const QString& text) {
-  return Qt::mightBeRichText(text)
-             ? "<span style='white-space:pre'>" + text.toHtmlEscaped() + "</span>"
-             : text;
-}
-
 void WatchWithParts(QWidget& widget, QObject& watcher) {
   widget.installEventFilter(&watcher);
   for (QObject* child : widget.children()) {
@@ -37,6 +30,12 @@ QString ObjectNameOf(const Control& control) {
   QString name = ToQString(control.Name());
   if (control.Index() != Control::kNoIndex) name += "_" + QString::number(control.Index());
   return name;
+}
+
+QString PlainToolTip(const QString& text) {
+  return Qt::mightBeRichText(text)
+             ? "<span style='white-space:pre'>" + text.toHtmlEscaped() + "</span>"
+             : text;
 }
 
 QString WithoutMnemonic(std::string_view caption) {

@@ -77,6 +77,9 @@ class ViewOf : public WidgetView {
 /// The widget's name: the control's, with "_<index>" behind it in a control array.
 QString ObjectNameOf(const Control& control);
 
+/// A tool tip is plain text, whatever tags it shows: what to give Qt so that it stays so.
+QString PlainToolTip(const QString& text);
+
 /// A caption without its access key mark: what it says.
 QString WithoutMnemonic(std::string_view caption);
 /// A text in which every ampersand is meant, for a widget that takes them for access key marks.

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenu>
@@ -9,6 +10,7 @@
 #include <QSlider>
 #include <QTabBar>
 #include <QTableView>
+#include <algorithm>
 
 #include "services/Buttons.h"
 #include "services/Lists.h"
@@ -137,6 +139,32 @@ TEST_F(ControlEvents, TypingAnEntrysTextIntoAComboChoosesNothing) {
   EXPECT_EQ(form.cboType.Text(), combo->currentText().toStdString());
 }
 
+TEST_F(ControlEvents, ALongComboScrollsAndAFieldKeepsItsSelectionInAMenu) {
+  ProbeForm other(screen);
+  auto& cboTags = other.Add<ComboBox>("cboTags", ComboStyle::kDropDownList, false);
+  cboTags.AddItems(Strings(200, "tag"));
+  cboTags.Move({0, 0, 3000, 500});
+  other.ShowAndWait();
+  auto* list = other.Widget<QComboBox>(cboTags);
+  list->showPopup();
+  EXPECT_LE(list->view()->viewport()->height(), 20 * list->view()->sizeHintForRow(0));
+  EXPECT_GE(list->view()->viewport()->height(), 10 * list->view()->sizeHintForRow(0));
+  list->hidePopup();
+
+  form.Window().activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&form.Window()));
+  auto* combo = form.Widget<QComboBox>(form.cboType);
+  combo->setFocus();
+  QTest::keyClicks(combo, "beetle");
+  combo->lineEdit()->setSelection(1, 3);
+  form.Window().findChild<QMenuBar*>()->setFocus(Qt::MenuBarFocusReason);
+  EXPECT_EQ(combo->lineEdit()->selectedText(), "eet");
+  combo->setFocus(Qt::MenuBarFocusReason);
+  EXPECT_EQ(combo->lineEdit()->selectedText(), "eet");
+  form.Widget(form.txtOne)->setFocus(Qt::TabFocusReason);
+  EXPECT_EQ(combo->lineEdit()->selectedText(), "");
+}
+
 TEST_F(ControlEvents, SliderTabsAndGridTellOnce) {
   QTest::keyClick(form.Widget(form.sldSize), Qt::Key_Right);
   auto* strip = form.Widget(form.tabPages)->findChild<QTabBar*>();
@@ -173,6 +201,35 @@ TEST_F(ControlEvents, MenusTellOnceAndFileNamesAreShownLetterByLetter) {
   form.tabPages.SetTabCaption(0, "a&b.html");
   EXPECT_EQ(form.Widget(form.tabPages)->findChild<QTabBar*>()->tabText(0), "a&&b.html");
   EXPECT_FALSE(form.Widget(form.cmdTool)->toolTip().contains("<B>"));
+}
+
+TEST_F(ControlEvents, AFileTabTellsItsNameWhereItIsCut) {
+  ProbeForm other(screen);
+  auto& tabs = other.Add<SSTab>("MyTabFiles", TabSide::kBottom, Strings{"", "", ""});
+  tabs.SetPlainCaptions(true);
+  tabs.Move({0, 0, 4500, 300});
+  other.ShowAndWait();
+  auto* strip = other.Widget(tabs)->findChild<QTabBar*>();
+  const std::string longName = "a & b, " + std::string(60, 'x') + ".html";
+  std::string fitting = "W";
+  const QFontMetrics metrics = strip->fontMetrics();
+  while (metrics.horizontalAdvance(ToQString(fitting + "W")) <= strip->tabRect(0).width() - 8) {
+    fitting += "W";
+  }
+  tabs.SetTabCaption(0, longName);
+  tabs.SetTabCaption(1, fitting);
+  EXPECT_EQ(strip->tabToolTip(0).toStdString(), longName);
+  EXPECT_EQ(strip->tabToolTip(1), "") << "there is room for it";
+  const QImage image = strip->grab(strip->tabRect(1)).toImage();
+  int darkest = 255;
+  for (int x = 4; x < 10; ++x) {
+    for (int y = 4; y < image.height() - 4; ++y) {
+      darkest = std::min(darkest, qGray(image.pixel(x, y)));
+    }
+  }
+  EXPECT_LT(darkest, 128) << "the text begins beside the edge";
+  tabs.SetTabCaption(0, "a.html");
+  EXPECT_EQ(strip->tabToolTip(0), "");
 }
 
 }  // namespace

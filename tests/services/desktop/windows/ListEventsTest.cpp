@@ -72,6 +72,7 @@ TEST_F(ListEvents, ADirectoryListShowsAncestorsAndOpensOnEnterAndDoubleClick) {
     return List(form.MyDirectory)->model()->index(row, 0).data().toString().toStdString();
   };
   EXPECT_EQ((Strings{text(0), text(1), text(2)}), (Strings{"c:\\", "site", "img"}));
+  EXPECT_EQ(List(form.MyDirectory)->sizeHintForRow(0), List(form.MyFileList)->sizeHintForRow(0));
   Click(form.MyDirectory, 2);
   QTest::keyClick(List(form.MyDirectory), Qt::Key_Return);
   EXPECT_EQ(form.TakeLog(), (Strings{"dir c:\\site\\img", "in c:\\site\\img"}));
