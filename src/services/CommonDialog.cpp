@@ -39,7 +39,8 @@ bool CommonDialog::ShowSave() {
 }
 
 bool CommonDialog::ShowColor() {
-  const std::optional<Colour> chosen = DialogsOf(owner_).PickColour(owner_, color);
+  const Colour start = (flags & kStartFromColor) != 0 ? color : kBlack;
+  const std::optional<Colour> chosen = DialogsOf(owner_).PickColour(owner_, start);
   if (!chosen) return Cancelled();
   color = *chosen;
   return true;

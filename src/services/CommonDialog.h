@@ -9,7 +9,7 @@ namespace tagsmith {
 class Form;
 
 /// `Flags` values.
-constexpr int kStartFromColor = 1;
+constexpr int kStartFromColor = 1;  ///< The colour dialog starts from `color`, not from black.
 constexpr int kScreenAndPrinterFonts = 3;
 
 /// The desktop's file, colour and font dialogs, with the properties that go in and come out. Each

@@ -64,6 +64,11 @@ void Control::SetBackColor(Colour colour) {
   Tell(Property::kBackColor);
 }
 
+void Control::SetFontName(std::string_view name) {
+  fontName_ = name;
+  Tell(Property::kFont);
+}
+
 void Control::SetFocus() {
   if (TakesInput() && form_.IsVisible()) form_.GiveFocus(*this, /*byUser=*/false);
 }

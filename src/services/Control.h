@@ -94,6 +94,9 @@ class Control {
   void SetForeColor(Colour colour);
   Colour BackColor() const { return backColor_; }
   void SetBackColor(Colour colour);
+  /// The name of the font; empty for the desktop's own. Its size is the desktop's.
+  const std::string& FontName() const { return fontName_; }
+  void SetFontName(std::string_view name);
   int MousePointer() const { return mousePointer_; }
   void SetMousePointer(int pointer) { mousePointer_ = pointer; }
 
@@ -125,7 +128,9 @@ class Control {
 
   void Tell(Property property);
   /// Whether the user can act on the control now.
-  bool TakesInput() const { return enabled_ && visible_; }
+  bool TakesInput() const {
+    return enabled_ && visible_ && (container_ == nullptr || container_->TakesInput());
+  }
   template <class... Args>
   void Raise(const Event<Args...>& event, std::type_identity_t<Args>... arguments);
 
@@ -143,6 +148,7 @@ class Control {
   bool visible_ = true;
   bool focusOnClick_ = true;
   std::string toolTip_;
+  std::string fontName_;
   Colour foreColor_ = -1;
   Colour backColor_ = -1;
   int mousePointer_ = 0;

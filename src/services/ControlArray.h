@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <initializer_list>
 #include <memory>
 #include <string>
 #include <utility>
@@ -19,6 +20,13 @@ class ControlArray {
   ControlArray(Form& form, const std::string& name, int count, const Args&... arguments) {
     for (int i = 0; i < count; ++i) {
       controls_.push_back(std::make_unique<T>(form, name, arguments..., i));
+    }
+  }
+
+  /// One control for each caption, which goes to its constructor.
+  ControlArray(Form& form, const std::string& name, std::initializer_list<const char*> captions) {
+    for (const char* caption : captions) {
+      controls_.push_back(std::make_unique<T>(form, name, caption, Count()));
     }
   }
 

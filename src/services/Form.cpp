@@ -9,6 +9,16 @@
 #include "services/Platform.h"
 
 namespace tagsmith {
+namespace {
+
+// Makes each group's frame the container of the controls in it.
+void PutIntoFrames(const Arrangement& node, Control* frame) {
+  if (node.control != nullptr && frame != nullptr) node.control->SetContainer(*frame);
+  if (node.kind == Arrangement::Kind::kGroup) frame = node.control;
+  for (const Arrangement& child : node.children) PutIntoFrames(child, frame);
+}
+
+}  // namespace
 
 Form::Form(Platform& platform, std::string name) : platform_(platform), name_(std::move(name)) {}
 
@@ -130,6 +140,7 @@ void Form::SetHeight(Twips height) {
 void Form::UserResize(Twips width, Twips height) { Resized(width, height); }
 
 void Form::SetArrangement(Arrangement arrangement) {
+  PutIntoFrames(arrangement, nullptr);
   arrangement_ = std::make_unique<Arrangement>(std::move(arrangement));
 }
 
@@ -144,6 +155,7 @@ void Form::Unregister(Control& control) {
   std::erase(controls_, &control);
   std::erase_if(menus_, [&control](Menu* menu) { return static_cast<Control*>(menu) == &control; });
   if (activeControl_ == &control) activeControl_ = nullptr;
+  if (initialFocus_ == &control) initialFocus_ = nullptr;
 }
 
 Control* Form::Find(std::string_view name, int index) const {

@@ -97,6 +97,7 @@ class Form {
   /// How the controls stand, for a form that leaves the arithmetic to the view; null for one whose
   /// controls carry their own geometry.
   const Arrangement* GetArrangement() const { return arrangement_.get(); }
+  /// The frame of a group becomes the container of what stands in it.
   void SetArrangement(Arrangement arrangement);
 
   // --- Controls ---
@@ -137,6 +138,11 @@ class Form {
   /// own; null for none.
   CommandButton* DefaultButton() const { return defaultButton_; }
   void SetDefaultButton(CommandButton& button) { defaultButton_ = &button; }
+
+  /// The control that has the keyboard when the form comes onto the screen; null for the first that
+  /// takes it.
+  Control* InitialFocus() const { return initialFocus_; }
+  void SetInitialFocus(Control& control) { initialFocus_ = &control; }
 
   // --- The user's actions, called by the view and by tests ---
 
@@ -193,6 +199,7 @@ class Form {
   std::vector<Control*> controls_;
   std::vector<Menu*> menus_;
   Control* activeControl_ = nullptr;
+  Control* initialFocus_ = nullptr;
   CommandButton* defaultButton_ = nullptr;
   std::unique_ptr<FormView> view_;
   std::vector<std::unique_ptr<Control>> owned_;

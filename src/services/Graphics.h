@@ -56,7 +56,8 @@ class Shape : public Control {
 };
 
 /// A straight line. Its bounds are the rectangle that it crosses from the top left to the bottom
-/// right; with no height or no width it is level or upright.
+/// right; with no height or no width it is level or upright. In an arrangement it divides what
+/// stands before it from what follows: upright in a row, level in a column.
 class Line : public Control {
  public:
   Line(Form& form, std::string name, int index = kNoIndex);

@@ -36,9 +36,11 @@ void MSFlexGrid::Resize(int rows, int columns) {
   rows_ = rows;
   columns_ = columns;
   cells_ = std::move(cells);
+  const bool currentHasGone = row_ >= rows_ || column_ >= columns_;
   row_ = std::min(row_, rows_ - 1);
   column_ = std::min(column_, columns_ - 1);
   Tell(Property::kLimits);
+  if (currentHasGone) Raise(onSelChange);
 }
 
 void MSFlexGrid::SetRows(int rows) { Resize(rows, columns_); }

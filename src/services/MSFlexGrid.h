@@ -9,7 +9,7 @@
 namespace tagsmith {
 
 /// A grid of texts with one current cell. Rows and columns count from 0. Growing adds empty cells;
-/// shrinking drops those outside and moves the current cell inside.
+/// shrinking drops those outside and, if the current cell was one of them, selects another.
 class MSFlexGrid : public Control {
  public:
   MSFlexGrid(Form& form, std::string name, int rows, int columns);
@@ -28,6 +28,7 @@ class MSFlexGrid : public Control {
   void SetText(std::string_view text);
   const std::string& TextAt(int row, int column) const;
 
+  /// Another cell has been selected: by the user, or because the current one has gone.
   Event<> onSelChange;
 
   /// The user selects a cell, by mouse or keyboard.

@@ -17,6 +17,10 @@ class TextBox : public Control {
   /// the form is shown.
   bool MultiLine() const { return multiLine_; }
   void SetMultiLine(bool multiLine) { multiLine_ = multiLine; }
+  /// Whether a long line of a multi-line field goes on below; if not, the field has a horizontal
+  /// scroll bar too. Written before the form is shown.
+  bool WrapsLines() const { return wrapsLines_; }
+  void SetWrapsLines(bool wraps) { wrapsLines_ = wraps; }
   const std::string& Text() const { return text_; }
   void SetText(std::string_view text);
 
@@ -36,6 +40,7 @@ class TextBox : public Control {
  private:
   std::string text_;
   bool multiLine_ = false;
+  bool wrapsLines_ = true;
 };
 
 }  // namespace tagsmith

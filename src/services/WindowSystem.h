@@ -14,6 +14,7 @@ enum class Property {
   kCaption,
   kEnabled,
   kFocus,
+  kFont,
   kForeColor,
   kGeometry,
   kItems,

@@ -21,6 +21,7 @@ using Kind = Arrangement::Kind;
 constexpr Twips kGap = 105;
 constexpr Twips kMargin = 165;
 constexpr Twips kButtonWidth = 1215;
+constexpr int kDivider = 1;  // Pixels.
 
 bool IsUpright(const Control& control) {
   return control.Kind() == ControlKind::kSlider &&
@@ -85,9 +86,13 @@ bool IsKind(const Arrangement& node, ControlKind kind) {
   return node.kind == Kind::kControl && node.control->Kind() == kind;
 }
 
+void Divide(QWidget& line, bool upright) {
+  upright ? line.setFixedWidth(kDivider) : line.setFixedHeight(kDivider);
+}
+
 // Where a leaf stands in a cell that is larger than it.
 Qt::Alignment AlignmentOf(const Arrangement& node, bool besideTall) {
-  if (node.kind != Kind::kControl) return {};
+  if (node.kind != Kind::kControl || IsKind(node, ControlKind::kLine)) return {};
   Qt::Alignment alignment;
   if (!WidensItself(*node.control) && node.control->Kind() != ControlKind::kLabel) {
     alignment |= Qt::AlignLeft;
@@ -171,6 +176,7 @@ QLayout* ArrangementLayout::MakeGrid(const Arrangement& node, QWidget& parent) c
 void ArrangementLayout::AppendToGrid(QGridLayout& grid, const Arrangement& node, QWidget& parent,
                                      int row, int column, bool besideTall) const {
   if (QWidget* widget = MakeWidget(node, parent)) {
+    if (IsKind(node, ControlKind::kLine)) Divide(*widget, /*upright=*/false);
     grid.addWidget(widget, row, column, AlignmentOf(node, besideTall));
   } else if (node.kind != Kind::kControl) {
     grid.addLayout(MakeLayout(node, parent), row, column);
@@ -216,6 +222,8 @@ QWidget* ArrangementLayout::MakeWidget(const Arrangement& node, QWidget& parent)
 void ArrangementLayout::Append(QBoxLayout& layout, const Arrangement& node, QWidget& parent,
                                int stretch, Qt::Alignment alignment) const {
   if (QWidget* widget = MakeWidget(node, parent)) {
+    const bool inRow = layout.direction() == QBoxLayout::LeftToRight;
+    if (IsKind(node, ControlKind::kLine)) Divide(*widget, inRow);
     layout.addWidget(widget, stretch, alignment);
   } else if (node.kind != Kind::kControl) {
     layout.addLayout(MakeLayout(node, parent), stretch);

@@ -116,6 +116,16 @@ void OptionButtonView::Update(Property property) {
   group.setExclusive(model_.Value());
   button_->setChecked(model_.Value());
   group.setExclusive(true);
+  ShareTabStop(group);
+}
+
+// Tab goes to the chosen one; to the first where none is.
+void OptionButtonView::ShareTabStop(const QButtonGroup& group) {
+  const QAbstractButton* chosen = group.checkedButton();
+  for (QAbstractButton* button : group.buttons()) {
+    const bool takesTab = chosen == nullptr || button == chosen;
+    button->setFocusPolicy(takesTab ? Qt::StrongFocus : Qt::ClickFocus);
+  }
 }
 
 }  // namespace tagsmith

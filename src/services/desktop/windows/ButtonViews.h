@@ -37,6 +37,7 @@ class OptionButtonView final : public ViewOf<OptionButton> {
 
  private:
   void Update(Property property) override;
+  static void ShareTabStop(const QButtonGroup& group);
 
   QAbstractButton* button_;
 };

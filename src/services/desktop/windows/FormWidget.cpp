@@ -36,8 +36,12 @@ QMenuBar& FormWidget::MenuBar() {
   return *menuBar_;
 }
 
+int FormWidget::MenuWidth() const {
+  return menuBar_ == nullptr || menuBar_->isNativeMenuBar() ? 0 : menuBar_->sizeHint().width();
+}
+
 QSize FormWidget::SizeFor(QSize client) const {
-  if (menuBar_ == nullptr || menuBar_->isNativeMenuBar()) return client;
+  if (MenuWidth() == 0) return client;
   return client + QSize(0, menuBar_->heightForWidth(client.width()));
 }
 

@@ -26,6 +26,8 @@ class FormWidget final : public QWidget {
   QWidget& Client() const { return *client_; }
   /// Made on first use.
   QMenuBar& MenuBar();
+  /// The width at which all menus stand side by side; 0 without menus.
+  int MenuWidth() const;
   /// The window's size with a client area of `client`.
   QSize SizeFor(QSize client) const;
   /// Puts the client area into a scrolled frame, for a screen that is smaller than it.

@@ -123,11 +123,23 @@ void FormWindow::PutOnScreen(const QWidget* above) {
     Centre(*window_, above);
     shown_ = true;
   }
+  if (!window_->isVisible()) GiveInitialFocus();
   const bool isSplash = form_.Border() == BorderStyle::kNone;
   window_->setAttribute(Qt::WA_ShowWithoutActivating, isSplash);
   window_->isMinimized() ? window_->showNormal() : window_->show();
   window_->raise();
   if (!isSplash) window_->activateWindow();
+}
+
+// The window gives the keyboard to it once it is active. The model is not told: the user has not
+// moved the focus.
+void FormWindow::GiveInitialFocus() {
+  const Control* control = form_.InitialFocus();
+  if (control == nullptr || !control->Enabled() || !control->Visible()) return;
+  const auto* view = static_cast<WidgetView*>(control->View());
+  if (view == nullptr) return;
+  form_.ClearFocus();
+  view->FocusTarget()->setFocus(Qt::OtherFocusReason);
 }
 
 void FormWindow::Show() { PutOnScreen(nullptr); }
@@ -204,10 +216,10 @@ QSize FormWindow::ModelClientSize() const {
 }
 
 void FormWindow::FitToArrangement() {
-  QLayout* layout = window_->Client().layout();
-  QSize wanted = layout->totalSizeHint();
+  QSize wanted = window_->Client().layout()->totalSizeHint();
+  wanted.setWidth(std::max(wanted.width(), window_->MenuWidth()));
   const QSize room = RoomFor(*window_);
-  if (wanted.height() > room.height() || wanted.width() > room.width()) {
+  if (window_->SizeFor(wanted).boundedTo(room) != window_->SizeFor(wanted)) {
     window_->MakeScrollable();
     window_->Client().setMinimumSize(wanted);
     const int bar = window_->style()->pixelMetric(QStyle::PM_ScrollBarExtent);

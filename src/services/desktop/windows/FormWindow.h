@@ -71,6 +71,7 @@ class FormWindow final : public QObject, public FormView, private ViewHost {
   void PlaceViews();
 
   void PutOnScreen(const QWidget* above);
+  void GiveInitialFocus();
   void FinishEvent();
   void DeliverFocus();
   void ShowPointer(int pointer);

@@ -13,6 +13,13 @@
 #include "services/desktop/windows/TwipsScale.h"
 
 namespace tagsmith {
+namespace {
+
+// A pen runs with its middle along the line: this far from the edge it stays inside, whatever the
+// pixels of the display are.
+constexpr double kHalfPen = 0.5;
+
+}  // namespace
 
 /// A filled rectangle with a thin border.
 class Figure final : public QWidget {
@@ -28,9 +35,10 @@ class Figure final : public QWidget {
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);
+    painter.fillRect(rect(), fill_.isValid() ? fill_ : palette().color(QPalette::Base));
     painter.setPen(RimColour(palette()));
-    painter.setBrush(fill_.isValid() ? fill_ : palette().color(QPalette::Base));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.drawRect(QRectF(rect()).adjusted(kHalfPen, kHalfPen, -kHalfPen, -kHalfPen));
   }
 
  private:
@@ -67,17 +75,22 @@ namespace {
 
 constexpr Twips kShapeWidth = 900;
 constexpr Twips kShapeHeight = 330;
+constexpr int kMiddleLightness = 128;
 
 class Stroke final : public QWidget {
  public:
-  explicit Stroke(QWidget* parent) : QWidget(parent) {}
+  Stroke(bool faint, QWidget* parent) : QWidget(parent), faint_(faint) {}
 
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);
-    painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawLine(0, 0, width() - 1, height() - 1);
+    painter.setPen(faint_ ? RimColour(palette()) : palette().color(QPalette::WindowText));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.drawLine(QPointF(kHalfPen, kHalfPen), QPointF(width() - kHalfPen, height() - kHalfPen));
   }
+
+ private:
+  bool faint_;
 };
 
 }  // namespace
@@ -96,14 +109,13 @@ ShapeView::ShapeView(Shape& control, ViewHost& host, QWidget& parent)
 void ShapeView::Update(Property /*property*/) { figure_->SetFill(ToQColor(model_.FillColor())); }
 
 void ShapeView::Resized() {
-  if (StandsByBounds()) return;
   const Twips width = model_.Width() > 0 ? model_.Width() : kShapeWidth;
   const Twips height = model_.Height() > 0 ? model_.Height() : kShapeHeight;
   figure_->setMinimumSize(Host().Scale().ToPixels(width, height));
 }
 
 LineView::LineView(Line& control, ViewHost& host, QWidget& parent) : ViewOf(control, host) {
-  Adopt(new Stroke(&parent));
+  Adopt(new Stroke(/*faint=*/StandsInLayout(), &parent));
 }
 
 // The last point of a line belongs to it.
@@ -117,8 +129,15 @@ PictureBoxView::PictureBoxView(PictureBox& control, ViewHost& host, QWidget& par
 }
 
 void PictureBoxView::Update(Property property) {
-  if (property != Property::kBackColor) return;
-  figure_->SetFill(model_.BackColor() >= 0 ? ToQColor(model_.BackColor()) : QColor());
+  if (property != Property::kBackColor && property != Property::kForeColor) return;
+  if (model_.BackColor() < 0) return figure_->SetFill(QColor());
+  const QColor ground = ToQColor(model_.BackColor());
+  figure_->SetFill(ground);
+  // What stands on it and has no colour of its own would take the desktop's, legible or not.
+  QPalette palette = figure_->palette();
+  palette.setColor(QPalette::WindowText,
+                   ground.lightness() < kMiddleLightness ? Qt::white : Qt::black);
+  if (model_.ForeColor() < 0) figure_->setPalette(palette);
 }
 
 void PictureBoxView::Resized() {

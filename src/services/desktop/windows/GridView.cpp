@@ -2,6 +2,9 @@
 
 #include <QAbstractTableModel>
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QRegularExpression>
+#include <QStyledItemDelegate>
 
 #include "services/desktop/system/TextConversion.h"
 #include "services/desktop/windows/TwipsScale.h"
@@ -18,8 +21,9 @@ class GridCells final : public QAbstractTableModel {
     endResetModel();
   }
   void Forget() { grid_ = nullptr; }
-  void TextsChanged() {
-    emit dataChanged(index(0, 0), index(rowCount({}) - 1, columnCount({}) - 1));
+  void TextChanged() {
+    const QModelIndex cell = index(grid_->Row(), grid_->Col());
+    emit dataChanged(cell, cell);
   }
 
   int rowCount(const QModelIndex& parent) const override {
@@ -43,33 +47,84 @@ constexpr Twips kColumnWidth = 960;
 constexpr Twips kRowHeight = 315;
 constexpr int kColumnsShown = 5;
 constexpr int kRowsShown = 8;
+/// More than a cell is wide; laying out a long text costs time at each paint.
+constexpr qsizetype kLettersShown = 200;
+
+/// A table in which letters do not look for a cell: the user means to type a text.
+class PlainTable final : public QTableView {
+ public:
+  using QTableView::QTableView;
+  void keyboardSearch(const QString& /*letters*/) override {}
+};
+
+/// Draws the current cell as one that is selected and has the keyboard, whoever has it, and of a
+/// text the first line.
+class CellPainter final : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  QString displayText(const QVariant& value, const QLocale& /*locale*/) const override {
+    static const QRegularExpression lineEnd(QStringLiteral("[\r\n]"));
+    const QString text = value.toString().left(kLettersShown);
+    const qsizetype end = text.indexOf(lineEnd);
+    return end < 0 ? text : text.left(end) + u'\u2026';
+  }
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    const auto* view = qobject_cast<const QAbstractItemView*>(option->widget);
+    const bool isCurrent = view != nullptr && view->currentIndex() == index;
+    option->state.setFlag(QStyle::State_Selected, isCurrent);
+    if (isCurrent) option->state |= QStyle::State_Active;
+  }
+};
+
+bool IsArrow(int key) {
+  return key == Qt::Key_Left || key == Qt::Key_Up || key == Qt::Key_Right || key == Qt::Key_Down;
+}
 
 }  // namespace
 
 GridView::GridView(MSFlexGrid& control, ViewHost& host, QWidget& parent)
     : ViewOf(control, host),
-      table_(new QTableView(&parent)),
+      table_(new PlainTable(&parent)),
       cells_(new GridCells(control, table_)) {
   table_->setModel(cells_);
+  table_->setItemDelegate(new CellPainter(table_));
   table_->setSelectionMode(QAbstractItemView::SingleSelection);
   table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   table_->setTabKeyNavigation(false);
+  table_->setWordWrap(false);
   table_->horizontalHeader()->hide();
   table_->verticalHeader()->hide();
   const int width = host.Scale().ToPixels(kColumnWidth);
   const int height = host.Scale().ToPixels(kRowHeight);
   table_->horizontalHeader()->setDefaultSectionSize(width);
   table_->verticalHeader()->setDefaultSectionSize(height);
-  table_->setMinimumSize(kColumnsShown * width, kRowsShown * height);
+  const int rim = 2 * table_->frameWidth();
+  table_->setMinimumSize(kColumnsShown * width + rim, kRowsShown * height + rim);
   ShowCurrent();
   Adopt(table_);
   connect(table_->selectionModel(), &QItemSelectionModel::currentChanged, this,
           [this](const QModelIndex& cell) {
             if (!showing_) Take(cell);
           });
-  connect(table_, &QTableView::pressed, this, [this](const QModelIndex& cell) {
-    if (!everTaken_) Take(cell);
-  });
+  connect(table_, &QTableView::pressed, this, [this] { TakeFirst(); });
+  afterKey_.setSingleShot(true);
+  connect(&afterKey_, &QTimer::timeout, this, [this] { TakeFirst(); });
+}
+
+bool GridView::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == table_ && event->type() == QEvent::KeyPress && !everTaken_ &&
+      IsArrow(static_cast<QKeyEvent*>(event)->key())) {
+    afterKey_.start();
+  }
+  return WidgetView::eventFilter(watched, event);
+}
+
+void GridView::TakeFirst() {
+  if (!everTaken_) Take(table_->currentIndex());
 }
 
 void GridView::Take(const QModelIndex& cell) {
@@ -91,7 +146,7 @@ void GridView::ShowCurrent() {
 void GridView::Update(Property property) {
   showing_ = true;
   if (property == Property::kLimits) cells_->Reset();
-  if (property == Property::kText) cells_->TextsChanged();
+  if (property == Property::kText) cells_->TextChanged();
   showing_ = false;
   ShowCurrent();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTableView>
+#include <QTimer>
 
 #include "services/MSFlexGrid.h"
 #include "services/desktop/windows/WidgetView.h"
@@ -15,17 +16,21 @@ class GridView final : public ViewOf<MSFlexGrid> {
   GridView(MSFlexGrid& control, ViewHost& host, QWidget& parent);
   ~GridView() override;
 
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   void Update(Property property) override;
   void ShowCurrent();
   void Take(const QModelIndex& cell);
+  void TakeFirst();
 
   QTableView* table_;
   GridCells* cells_;
   bool showing_ = false;
-  /// The first cell is the current one from the start: until the user has selected one, pressing it
-  /// counts.
+  /// One cell is the current one from the start: until the user has selected one, pressing it
+  /// counts, and so does an arrow key that leads nowhere.
   bool everTaken_ = false;
+  QTimer afterKey_;  // Fires once the table has moved, if it does.
 };
 
 }  // namespace tagsmith

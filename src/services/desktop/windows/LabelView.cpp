@@ -1,6 +1,7 @@
 #include "services/desktop/windows/LabelView.h"
 
 #include <QMouseEvent>
+#include <algorithm>
 
 #include "services/Form.h"
 #include "services/desktop/system/TextConversion.h"
@@ -19,17 +20,23 @@ constexpr int kLegibleLightness = 170;
 
 LabelView::LabelView(Label& control, ViewHost& host, QWidget& parent)
     : ViewOf(control, host), label_(new QLabel(&parent)) {
-  const bool inLayout = control.Owner().GetArrangement() != nullptr;
+  const bool inLayout = StandsInLayout();
   label_->setTextFormat(Qt::PlainText);
   UpdateText();
   label_->setWordWrap(!inLayout || label_->text().size() > kLongestLine);
   if (!inLayout) label_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   Adopt(label_);
   UpdateColour();
-  // A caption that grows later makes do with the room there is.
-  if (inLayout && !label_->wordWrap()) label_->setMinimumWidth(label_->sizeHint().width());
+  if (inLayout && !label_->wordWrap()) captionWidth_ = label_->sizeHint().width();
+  Resized();
   if (control.MousePointer() == kSizeWestEast) label_->setCursor(Qt::SplitHCursor);
   label_->installEventFilter(this);
+}
+
+// A caption that grows later makes do with the room there is.
+void LabelView::Resized() {
+  if (!StandsInLayout()) return;
+  label_->setMinimumWidth(std::max(captionWidth_, Host().Scale().ToPixels(model_.Width())));
 }
 
 bool LabelView::IsHandle() const {

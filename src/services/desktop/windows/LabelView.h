@@ -19,12 +19,14 @@ class LabelView final : public ViewOf<Label> {
 
  private:
   void Update(Property property) override;
+  void Resized() override;
   void UpdateText();
   void UpdateColour();
   bool IsHandle() const;
   bool PassMouse(const QMouseEvent& event);
 
   QLabel* label_;
+  int captionWidth_ = 0;  // What the first caption takes in a layout.
 };
 
 }  // namespace tagsmith

@@ -12,16 +12,18 @@ namespace tagsmith {
 
 MenuView::MenuView(Menu& menu, ViewHost& host, QMenuBar& bar)
     : model_(menu), host_(host), action_(nullptr) {
-  QMenu* dropDown = bar.addMenu(QString());
-  action_ = dropDown->menuAction();
-  MakeEntries(*dropDown);
-  connect(
-      dropDown, &QMenu::aboutToHide, this,
-      [this, menuBar = &bar] {
-        if (menuBar->hasFocus() && QApplication::activePopupWidget() == nullptr) LeaveMenuBar();
-      },
-      Qt::QueuedConnection);
-  Start();
+  Make(bar);
+  if (QMenu* dropDown = action_->menu()) {
+    connect(
+        dropDown, &QMenu::aboutToHide, this,
+        [this, menuBar = &bar] {
+          const bool onward = menuBar->activeAction() != action_;  // To one that has no entries.
+          if (menuBar->hasFocus() && !onward && QApplication::activePopupWidget() == nullptr) {
+            LeaveMenuBar();
+          }
+        },
+        Qt::QueuedConnection);
+  }
 }
 
 // One Escape leads from a menu back into the text. The menu bar would keep the keyboard and, left
@@ -37,7 +39,12 @@ void MenuView::LeaveMenuBar() {
 
 MenuView::MenuView(Menu& menu, ViewHost& host, QMenu& parent)
     : model_(menu), host_(host), action_(nullptr) {
-  if (menu.Entries().empty()) {
+  Make(parent);
+}
+
+template <class Parent>
+void MenuView::Make(Parent& parent) {
+  if (model_.Entries().empty()) {
     action_ = parent.addAction(QString());
     connect(action_, &QAction::triggered, this, [this] { Click(); });
   } else {

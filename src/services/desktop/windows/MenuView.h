@@ -25,6 +25,8 @@ class MenuView final : public QObject, public ControlView {
   void Changed(Property property) override;
 
  private:
+  template <class Parent>
+  void Make(Parent& parent);
   void Start();
   void MakeEntries(QMenu& menu);
   void Click();

@@ -1,5 +1,6 @@
 #include "services/desktop/windows/RangeViews.h"
 
+#include "services/desktop/system/TextConversion.h"
 #include "services/desktop/windows/TwipsScale.h"
 
 namespace tagsmith {
@@ -34,6 +35,8 @@ void SliderView::Update(Property /*property*/) {
   slider_->setValue(model_.Value());
   showing_ = false;
 }
+
+QString SliderView::AccessibleName() const { return ToQString(model_.ToolTipText()); }
 
 ProgressBarView::ProgressBarView(ProgressBar& control, ViewHost& host, QWidget& parent)
     : ViewOf(control, host), bar_(new QProgressBar(&parent)) {

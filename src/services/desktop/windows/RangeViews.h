@@ -14,6 +14,7 @@ class SliderView final : public ViewOf<Slider> {
 
  private:
   void Update(Property property) override;
+  QString AccessibleName() const override;
 
   QSlider* slider_;
   bool showing_ = false;

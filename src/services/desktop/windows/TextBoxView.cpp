@@ -23,7 +23,29 @@ class SmallTextEdit final : public QPlainTextEdit {
  public:
   using QPlainTextEdit::QPlainTextEdit;
   QSize sizeHint() const override { return minimumSize(); }
+  QSize minimumSizeHint() const override { return minimumSize(); }
+
+ protected:
+  // Enter with Shift would put in a character that ends no line in a file.
+  void keyPressEvent(QKeyEvent* event) override {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isEnter) return QPlainTextEdit::keyPressEvent(event);
+    QKeyEvent plain(event->type(), event->key(), event->modifiers() & ~Qt::ShiftModifier,
+                    event->text());
+    QPlainTextEdit::keyPressEvent(&plain);
+    event->setAccepted(plain.isAccepted());
+  }
 };
+
+// A line edit shows a line end, of whichever kind, as one character.
+QString ShownInOneLine(std::string_view text) {
+  return ShownText(text).replace(QChar::ParagraphSeparator, QChar::LineFeed);
+}
+
+// What a line edit holds, as a text edit would.
+QString AsBlocks(QString shown) {
+  return shown.replace(QChar::LineFeed, QChar::ParagraphSeparator);
+}
 
 // The characters that a key or an input method is about to type. Enter and Backspace count; what
 // is held with Control or Alt does not, unless it makes a character of its own.
@@ -59,6 +81,7 @@ void TextBoxView::MakeLineEdit(QWidget& parent) {
 void TextBoxView::MakeTextEdit(QWidget& parent) {
   lines_ = new SmallTextEdit(&parent);
   lines_->setTabChangesFocus(true);
+  if (!model_.WrapsLines()) lines_->setLineWrapMode(QPlainTextEdit::NoWrap);
   Update(Property::kText);
   Adopt(lines_);
   connect(lines_, &QPlainTextEdit::textChanged, this, [this] { TakeEdit(); });
@@ -79,7 +102,7 @@ void TextBoxView::Update(Property property) {
   if (property != Property::kText) return;
   showing_ = true;
   if (line_ != nullptr) {
-    const QString text = ToQString(model_.Text());
+    const QString text = ShownInOneLine(model_.Text());
     if (line_->text() != text) line_->setText(text);
   } else {
     const QString text = ShownText(model_.Text());
@@ -91,8 +114,9 @@ void TextBoxView::Update(Property property) {
 void TextBoxView::TakeEdit() {
   if (showing_) return;
   Host().Act([this] {
-    model_.UserEdit(line_ != nullptr ? FromQString(line_->text())
-                                     : MergeEdit(model_.Text(), lines_->document()->toRawText()));
+    const QString shown =
+        line_ != nullptr ? AsBlocks(line_->text()) : lines_->document()->toRawText();
+    model_.UserEdit(MergeEdit(model_.Text(), shown));
   });
 }
 

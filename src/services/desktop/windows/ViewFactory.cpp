@@ -86,6 +86,20 @@ bool StandsBehind(ControlKind kind) {
          kind == ControlKind::kShape || kind == ControlKind::kLine;
 }
 
+namespace {
+
+// A field that stands in a frame by itself is called what the frame says.
+void NameAfterFrame(const WidgetView& view) {
+  const Control* container = view.Model().Container();
+  if (container == nullptr || container->Kind() != ControlKind::kFrame) return;
+  if (qobject_cast<QAbstractButton*>(view.FocusTarget()) != nullptr) return;
+  if (!view.FocusTarget()->accessibleName().isEmpty()) return;
+  view.FocusTarget()->setAccessibleName(
+      WithoutMnemonic(static_cast<const Frame*>(container)->Caption()));
+}
+
+}  // namespace
+
 void LinkLabelsToFields(const std::vector<WidgetView*>& views) {
   QWidget* field = nullptr;
   for (auto view = views.rbegin(); view != views.rend(); ++view) {
@@ -95,6 +109,7 @@ void LinkLabelsToFields(const std::vector<WidgetView*>& views) {
       field = (*view)->FocusTarget();
     }
   }
+  for (const WidgetView* view : views) NameAfterFrame(*view);
 }
 
 }  // namespace tagsmith

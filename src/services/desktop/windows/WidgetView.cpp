@@ -67,9 +67,23 @@ void WidgetView::Adopt(QWidget* widget, QWidget* focusTarget) {
   UpdateToolTip();
   UpdateAccessibleName();
   UpdateColours();
+  UpdateFont();
   widget->setEnabled(control_.Enabled());
   widget->setVisible(control_.Visible());
   control_.AttachView(this);
+}
+
+void WidgetView::StandByBounds() {
+  byBounds_ = true;
+  widget_->setMinimumSize(0, 0);
+  widget_->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+}
+
+// An arrangement does not reach into a PictureBox or onto a page.
+bool WidgetView::StandsInLayout() const {
+  const Control* container = control_.Container();
+  return control_.Owner().GetArrangement() != nullptr &&
+         (container == nullptr || container->Kind() == ControlKind::kFrame);
 }
 
 QRect WidgetView::WantedPlace() const { return host_.Scale().ToPixels(control_.Bounds()); }
@@ -102,6 +116,9 @@ void WidgetView::Changed(Property property) {
       UpdateColours();
       Update(property);
       break;
+    case Property::kFont:
+      UpdateFont();
+      break;
     case Property::kFocus:
       control_.HasFocus() ? focusTarget_->setFocus(Qt::OtherFocusReason) : host_.DropFocus();
       break;
@@ -124,6 +141,14 @@ void WidgetView::UpdateColours() const {
   if (isPlain && !widget_->testAttribute(Qt::WA_SetPalette)) return;
   widget_->setAutoFillBackground(control_.BackColor() >= 0);
   widget_->setPalette(palette);
+}
+
+// Qt takes all but the family from the desktop.
+void WidgetView::UpdateFont() const {
+  if (control_.FontName().empty() && !widget_->testAttribute(Qt::WA_SetFont)) return;
+  QFont font;
+  if (!control_.FontName().empty()) font.setFamily(ToQString(control_.FontName()));
+  widget_->setFont(font);
 }
 
 void WidgetView::UpdateToolTip() const {

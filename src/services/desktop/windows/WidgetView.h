@@ -27,9 +27,9 @@ class WidgetView : public QObject, public ControlView {
   /// The widget on which the controls stand that the control contains, on its page `page`.
   virtual QWidget* ChildParent(int page);
 
-  /// From now on the widget stands where the control's bounds say, not where a layout puts it.
-  void StandByBounds() { byBounds_ = true; }
-  bool StandsByBounds() const { return byBounds_; }
+  /// From now on the widget stands where the control's bounds say, not where a layout puts it, and
+  /// has no size of its own.
+  void StandByBounds();
   /// Applies the bounds, cut to the area that the container shows.
   void Place();
 
@@ -40,6 +40,8 @@ class WidgetView : public QObject, public ControlView {
 
  protected:
   ViewHost& Host() const { return host_; }
+  /// Whether a layout places the widget. Known before it is in its place.
+  bool StandsInLayout() const;
 
   /// Takes the widget that the constructor has made and gives it what all controls have.
   /// `focusTarget` is the part that takes the keyboard, null for the widget itself.
@@ -55,6 +57,7 @@ class WidgetView : public QObject, public ControlView {
 
  private:
   void UpdateColours() const;
+  void UpdateFont() const;
   void UpdateToolTip() const;
 
   Control& control_;

@@ -2,14 +2,18 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QClipboard>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QSlider>
+#include <QStyledItemDelegate>
 #include <QTabBar>
 #include <QTableView>
+#include <QWheelEvent>
 #include <algorithm>
 
 #include "services/Buttons.h"
@@ -43,6 +47,7 @@ class Probe : public ProbeForm {
     sldSize.onChange = Log("slide");
     tabPages.onClick = [this](int before) { log.push_back("tab from " + std::to_string(before)); };
     grid.onSelChange = Log("cell");
+    mnuHelp.onClick = Log("help");
     mnuNew.onClick = Log("new");
     mnuFile.onClick = Log("file menu");
   }
@@ -51,6 +56,7 @@ class Probe : public ProbeForm {
   Menu mnuNew{*this, "mnuNew", "&New         here", &mnuFile, "Ctrl+N"};
   Menu mnuBar{*this, "mnuBar", "-", &mnuFile};
   Menu mnuRecent{*this, "mnuRecent", "", &mnuFile, "", 0};
+  Menu mnuHelp{*this, "mnuHelp", "&Help"};
   CommandButton cmdTool{*this, "cmdTool"};
   CheckBox chkOn{*this, "chkOn", "On"};
   OptionButton optA{*this, "optKind", "A", 0};
@@ -61,6 +67,7 @@ class Probe : public ProbeForm {
   Slider sldSize{*this, "sldSize", Orientation::kHorizontal, 1, 25};
   SSTab tabPages{*this, "tabPages", TabSide::kTop, {"One", "R && D"}};
   MSFlexGrid grid{*this, "grid", 3, 3};
+  Slider sldUpright{*this, "sldUpright", Orientation::kVertical, 1, 25};
 };
 
 class ControlEvents : public testing::Test {
@@ -121,10 +128,28 @@ TEST_F(ControlEvents, SeveralLinesKeepTheirLineEndsAroundAnEdit) {
   form.TakeLog();
   auto* edit = form.Widget<QPlainTextEdit>(form.txtMany);
   edit->moveCursor(QTextCursor::End);
-  QTest::keyClick(edit, Qt::Key_Return);
+  QTest::keyClick(edit, Qt::Key_Return, Qt::ShiftModifier);
   QTest::keyClicks(edit, "x");
   EXPECT_EQ(form.txtMany.Text(), text + "\r\nx");
   EXPECT_EQ(form.TakeLog().size(), 2U);
+
+  // In one line each is one character, and what is pasted ends as the others do.
+  form.txtOne.SetText("ä\r\nb\nc");
+  auto* line = form.Widget<QLineEdit>(form.txtOne);
+  line->setCursorPosition(2);
+  QTest::keyClick(line, Qt::Key_Backspace);
+  EXPECT_EQ(form.txtOne.Text(), "äb\nc");
+  QGuiApplication::clipboard()->setText("1\n2");
+  line->paste();
+  EXPECT_EQ(form.txtOne.Text(), "ä1\r\n2b\nc");
+}
+
+TEST_F(ControlEvents, TabGoesToTheChosenOption) {
+  form.optB.SetValue(true);
+  form.Widget(form.chkOn)->setFocus();
+  QTest::keyClick(form.Widget(form.chkOn), Qt::Key_Tab);
+  EXPECT_EQ(QApplication::focusWidget(), form.Widget(form.optB));
+  EXPECT_TRUE(form.optB.Value());
 }
 
 TEST_F(ControlEvents, TypingAnEntrysTextIntoAComboChoosesNothing) {
@@ -183,13 +208,46 @@ TEST_F(ControlEvents, SliderTabsAndGridTellOnce) {
   EXPECT_EQ(table->model()->rowCount(), 2);
 }
 
+TEST_F(ControlEvents, AnArrowKeySelectsTheFirstCellAndShrinkingKeepsTheCurrentInSight) {
+  auto* table = form.Widget<QTableView>(form.grid);
+  table->setFocus(Qt::TabFocusReason);
+  QTest::keyClick(table, Qt::Key_Left);
+  QTest::keyClick(table, Qt::Key_Left);
+  EXPECT_EQ(form.TakeLog(), (Strings{"cell"}));
+  form.grid.SetRows(20);
+  form.grid.SetCols(20);
+  form.grid.SetRow(12);
+  form.grid.SetCol(12);
+  form.grid.SetText("one\r\ntwo");
+  form.grid.SetRows(13);
+  form.grid.SetCols(19);
+  const QModelIndex cell = table->model()->index(12, 12);
+  EXPECT_TRUE(table->viewport()->rect().intersects(table->visualRect(cell)));
+  EXPECT_EQ(qobject_cast<QStyledItemDelegate*>(table->itemDelegate())
+                ->displayText(cell.data(), QLocale())
+                .toStdString(),
+            "one\xE2\x80\xA6");
+  EXPECT_EQ(form.TakeLog(), Strings());
+}
+
+TEST_F(ControlEvents, AnUprightSliderGrowsDownwards) {
+  auto* slider = form.Widget<QSlider>(form.sldUpright);
+  QTest::keyClick(slider, Qt::Key_Down);
+  EXPECT_EQ(form.sldUpright.Value(), 2);
+  QWheelEvent wheel({}, {}, {}, QPoint(0, -120), Qt::NoButton, {}, Qt::NoScrollPhase, false);
+  QCoreApplication::sendEvent(slider, &wheel);
+  EXPECT_EQ(form.sldUpright.Value(), 3);
+  EXPECT_TRUE(slider->invertedAppearance());
+}
+
 TEST_F(ControlEvents, MenusTellOnceAndFileNamesAreShownLetterByLetter) {
   const QMenuBar* bar = form.Window().findChild<QMenuBar*>();
   QMenu* menu = bar->actions().front()->menu();
   QTest::keyClick(&form.Window(), Qt::Key_N, Qt::ControlModifier);
   menu->popup({});
   menu->close();
-  EXPECT_EQ(form.TakeLog(), (Strings{"new", "file menu"}));
+  QTest::keyClick(&form.Window(), Qt::Key_H, Qt::AltModifier);
+  EXPECT_EQ(form.TakeLog(), (Strings{"new", "file menu", "help"}));
 
   ASSERT_EQ(menu->actions().size(), 3);
   EXPECT_TRUE(menu->actions()[1]->isSeparator());

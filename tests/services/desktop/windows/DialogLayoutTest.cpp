@@ -8,9 +8,11 @@
 #include "services/Graphics.h"
 #include "services/Lists.h"
 #include "services/MSFlexGrid.h"
+#include "services/Menu.h"
 #include "services/Ranges.h"
 #include "services/TextBox.h"
 #include "services/desktop/windows/ShownForm.h"
+#include "services/desktop/windows/TwipsScale.h"
 
 namespace tagsmith {
 namespace {
@@ -21,11 +23,20 @@ class Dialog : public ShownForm {
     txtLines.SetMultiLine(true);
     cmdInsert.SetCaption("&Insert The Whole Thing");
     cmdCancel.SetCaption("Cancel");
+    lblPlace.SetWidth(2000);
+    txtName(0).SetFontName("Courier");
+    picSketch.Move({0, 0, 1455, 1455});
+    lblSketch.SetContainer(picSketch);
+    lblSketch.Move({150, 300, 600, 240});
+    linSketch.SetContainer(picSketch);
+    linSketch.Move({1005, 150, 0, 900});
     SetArrangement(Column({
         Grid(2, {lblName(0), txtName(0), lblName(1), txtName(1), lblName(2),
                  Row({shpColor, cmdChange})}),
-        Row({Group(fraKind, Column({optKind(0), optKind(1)})), Column({sldRows, cboAlign})}),
-        Row({grid, lstNames}),
+        Row({Group(fraKind, Column({optKind(0), optKind(1)})), linUpright,
+             Column({sldRows, cboAlign, lblPlace})}),
+        Row({grid, picSketch, lstNames}),
+        linLevel,
         txtLines,
         ButtonRow({cmdInsert, cmdCancel}),
     }));
@@ -42,6 +53,13 @@ class Dialog : public ShownForm {
   MSFlexGrid grid{*this, "grid", 2, 2};
   ListBox lstNames{*this, "lstNames", true};
   TextBox txtLines{*this, "txtLines"};
+  Line linUpright{*this, "linUpright"};
+  Line linLevel{*this, "linLevel"};
+  Label lblPlace{*this, "lblPlace", "(1, 1)"};
+  PictureBox picSketch{*this, "picSketch"};
+  Label lblSketch{*this, "lblSketch", "Top left"};
+  Line linSketch{*this, "linSketch"};
+  Menu mnuHelp{*this, "mnuHelp", "&Help"};
   CommandButton cmdCancel{*this, "cmdCancel"};
   CommandButton cmdInsert{*this, "cmdInsert"};
 };
@@ -72,6 +90,7 @@ INSTANTIATE_TEST_SUITE_P(Fonts, DialogLayout, testing::Values(9, 14, 20));
 TEST_P(DialogLayout, NothingIsCutOrOverlaps) {
   std::vector<std::pair<std::string, QRect>> places;
   for (const Control* control : form->Controls()) {
+    if (control->Kind() == ControlKind::kMenu || control->Container() != nullptr) continue;
     QWidget* widget = form->Widget(*control);
     ASSERT_NE(widget, nullptr) << control->Name();
     const QSize least =
@@ -86,6 +105,37 @@ TEST_P(DialogLayout, NothingIsCutOrOverlaps) {
           << places[i].first << " and " << places[j].first;
     }
   }
+}
+
+TEST_P(DialogLayout, SizesInTwipsDividersAndPicturesComeOutAsTheyAre) {
+  const TwipsScale scale = TwipsScale::ForFont(QApplication::font());
+  EXPECT_EQ(form->Widget(form->lblPlace)->minimumWidth(), scale.ToPixels(2000));
+  EXPECT_EQ(Place(form->linUpright).size(), QSize(1, Place(form->fraKind).height()));
+  EXPECT_EQ(Place(form->linLevel).size(), QSize(Place(form->txtLines).width(), 1));
+  EXPECT_EQ(Place(form->picSketch).size(), scale.ToPixels(1455, 1455));
+  EXPECT_EQ(form->Widget(form->lblSketch)->geometry(), scale.ToPixels({150, 300, 600, 240}));
+  EXPECT_EQ(form->Widget(form->linSketch)->geometry().size(), QSize(1, scale.ToPixels(900) + 1));
+  const QFont font = form->Widget(form->txtName(0))->font();
+  EXPECT_EQ(font.family(), "Courier");
+  EXPECT_EQ(font.pointSize(), GetParam());
+  const QWidget* button = form->Widget(form->cmdInsert);
+  EXPECT_TRUE(button->parentWidget()->rect().contains(button->geometry())) << "below a menu bar";
+}
+
+TEST(SmallFields, AreAsLargeAsTheirTwipsSay) {
+  Screen screen;
+  ShownForm form(screen);
+  ControlArray<TextBox> fields(form, "fields", 6);
+  std::vector<Arrangement> cells;
+  for (int i = 0; i < 6; ++i) {
+    fields(i).SetMultiLine(true);
+    fields(i).Move({0, 0, 2100, 600});
+    cells.emplace_back(fields(i));
+  }
+  form.SetArrangement(Grid(3, cells));
+  form.ShowAndWait();
+  const TwipsScale scale = TwipsScale::ForFont(QApplication::font());
+  EXPECT_EQ(form.Widget(fields(4))->size(), scale.ToPixels(2100, 600));
 }
 
 TEST_P(DialogLayout, TabGoesThroughTheLeavesInTheirOrder) {

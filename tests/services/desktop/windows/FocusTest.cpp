@@ -97,6 +97,16 @@ TEST_F(Focus, AfterAClearTheNextClickTellsAlsoWhenTheWindowCameBackMeanwhile) {
   EXPECT_TRUE(PaneHasKeyboard());
 }
 
+TEST_F(Focus, AFormComesUpWithTheKeyboardWhereItWantsItAndTellsNothing) {
+  Probe other(screen);
+  other.SetInitialFocus(other.txtName);
+  other.ShowAndWait();
+  EXPECT_EQ(QApplication::focusWidget(), other.Widget(other.txtName));
+  EXPECT_EQ(other.TakeLog(), Strings());
+  QTest::mouseClick(other.Widget(other.txtName), Qt::LeftButton);
+  EXPECT_EQ(other.TakeLog(), (Strings{"name"})) << "as with a first field";
+}
+
 TEST_F(Focus, SetFocusIsSynchronousAndBringsItsWindow) {
   ProbeForm other(screen);
   auto& field = other.Add<TextBox>("txtOther");

@@ -6,6 +6,7 @@
 
 #include "services/Buttons.h"
 #include "services/Lists.h"
+#include "services/MSFlexGrid.h"
 #include "services/SSTab.h"
 #include "services/TextBox.h"
 #include "services/desktop/windows/ShownForm.h"
@@ -137,7 +138,7 @@ class Dialog : public ShownForm {
       log.push_back("unload");
       cancel = stays;
     };
-    SetArrangement(Column({txtName, cmdOther, ButtonRow({cmdInsert})}));
+    SetArrangement(Column({txtName, cmdOther, grid, ButtonRow({cmdInsert})}));
     SetDefaultButton(cmdInsert);
   }
   ~Dialog() override {
@@ -148,6 +149,7 @@ class Dialog : public ShownForm {
   bool* destroyed = nullptr;
   TextBox txtName{*this, "txtName"};
   CommandButton cmdOther{*this, "cmdOther"};
+  MSFlexGrid grid{*this, "grid", 2, 2};
   CommandButton cmdInsert{*this, "cmdInsert"};
 };
 
@@ -159,6 +161,8 @@ TEST(DialogKeys, EnterPressesTheDefaultButtonAndEscapeCloses) {
   form.ShowAndWait();
   QTest::keyClick(form.Widget(form.cmdOther), Qt::Key_Return);
   EXPECT_EQ(form.TakeLog(), (Strings{"other"})) << "the button with the focus has its own use";
+  QTest::keyClick(form.Widget(form.grid), Qt::Key_Return);
+  EXPECT_EQ(form.TakeLog(), (Strings{"insert", "unload", "after "}));
   QTest::keyClick(form.Widget(form.txtName), Qt::Key_Escape);
   form.Window().close();
   EXPECT_EQ(form.TakeLog(), (Strings{"unload", "unload"}));
