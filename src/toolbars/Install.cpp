@@ -5,6 +5,8 @@
 #include "toolbars/CatalogCommands.h"
 #include "toolbars/FormattingCommands.h"
 #include "toolbars/Pages.h"
+#include "toolbars/PromptedCommands.h"
+#include "toolbars/UserButtons.h"
 
 namespace tagsmith::toolbars {
 
@@ -13,6 +15,8 @@ void Install(Application& application) {
   AddPages(form);
   BindFormattingCommands(application);
   BindCatalogCommands(application);
+  BindPromptedCommands(application);
+  BindUserButtons(application);
   form.startup.fillCatalogs = [&form] { Fill_All_Combos(form); };
 }
 
