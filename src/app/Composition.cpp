@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "core/Startup.h"
+#include "dialogs/Install.h"
 #include "services/host/CommandTail.h"
 #include "services/host/ProgramDirectory.h"
 #include "toolbars/Install.h"
@@ -35,7 +36,8 @@ Composition::Composition(int argc, const char* const* argv, std::string settings
                 TailOf(argc, argv, files_)},
       application_(platform_),
       mainForm_(application_) {
-  toolbars::Install(application_);
+  toolbars::Install(application_);  // First: it makes the buttons of the pages.
+  dialogs::Install(application_);
 }
 
 void Composition::Start() { tagsmith::Start(application_, mainForm_); }

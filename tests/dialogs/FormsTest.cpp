@@ -1,0 +1,391 @@
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "dialogs/Install.h"
+#include "dialogs/frmColors.h"
+#include "dialogs/frmHR.h"
+#include "dialogs/frmJumpStart.h"
+#include "dialogs/frmListItems.h"
+#include "dialogs/frmLists.h"
+#include "dialogs/frmMarquee.h"
+#include "dialogs/frmTables.h"
+#include "support/MarkedText.h"
+#include "support/RunningProgram.h"
+#include "toolbars/Install.h"
+#include "toolbars/frmUD.h"
+
+namespace tagsmith::dialogs {
+namespace {
+
+/// The program with its toolbars and dialogs, a user before it, and a text in its pane.
+struct User : RunningProgram {
+  User() {
+    toolbars::Install(app);
+    Install(app);
+  }
+
+  void Put(std::string_view marked) {
+    const MarkedText put = MarkedText::Read(marked);
+    form.txtEdit.SetText(put.text);
+    form.MarkUnchanged();
+    Pane().Select(put.selStart, put.selLength);
+  }
+  std::string Shown() const {
+    return MarkedText{form.txtEdit.Text(), form.txtEdit.SelStart(), form.txtEdit.SelLength()}
+        .Write();
+  }
+  void Click(std::string_view button, int index = Control::kNoIndex) {
+    form.Get<CommandButton>(button, index).Click();
+  }
+  /// Opens the dialog `T` with the button, and does that in it.
+  template <class T>
+  void Use(std::string_view button, std::function<void(T&)> act) {
+    desktop.OnModal<T>(std::move(act));
+    Click(button);
+  }
+};
+
+class Forms : public testing::Test {
+ protected:
+  Forms() { user.Begin(); }
+
+  template <class T>
+  void ExpectColourRule(std::string_view button, CommandButton T::*change, Shape T::*shape);
+
+  User user;
+  ScriptedDesktop& desktop = user.desktop;
+};
+
+TEST_F(Forms, CancelAndTitleBarLeaveTheTextWhateverWasHandedBackBefore) {
+  const std::pair<const char*, int> kButtons[] = {
+      {"cmdFastColor", -1},  {"cmdFastAnchor", -1}, {"cmdComment", -1}, {"cmdFastList", -1},
+      {"cmdFastImage", -1},  {"cmdFastLine", -1},   {"cmdMarquee", -1}, {"cmdFastTable", -1},
+      {"cmdFrameDialog", 3}, {"cmdEasyBegin", -1},
+  };
+  for (const auto& [button, choice] : kButtons) {
+    for (const bool byTitleBar : {false, true}) {
+      SCOPED_TRACE(button);
+      user.Put("ä«ö»z");
+      user.app.gResultText = user.app.gColorValue = "left over";
+      user.app.gListKind = 1;
+      user.Use<Form>(button, [&, index = choice](Form& form) {
+        const char* const cancel = index < 0 ? "cmdCancel" : "cmdChoice";
+        byTitleBar ? form.UserClose() : form.Get<CommandButton>(cancel, index).Click();
+      });
+      EXPECT_EQ(user.Shown(), "ä«ö»z");
+      EXPECT_FALSE(user.form.DocumentChanged());
+    }
+  }
+}
+
+TEST_F(Forms, TheSelectionOfTheUseBeforeDoesNotComeBack) {
+  const std::pair<const char*, const char*> kFields[] = {
+      {"cmdFastAnchor", "txtALT"}, {"cmdComment", "txtComments"}, {"cmdMarquee", "txtAttib"}};
+  for (const auto& [button, field] : kFields) {
+    for (const std::string selected : {"ö\r\n ", ""}) {
+      user.Put("ä«" + selected + "»z");
+      user.Use<Form>(button, [&, name = field](Form& form) {
+        const int index = form.Name() == "frmMarquee" ? 0 : Control::kNoIndex;
+        EXPECT_EQ(form.Get<TextBox>(name, index).Text(), selected);
+        form.UserClose();
+      });
+    }
+  }
+}
+
+// --- Lists ---
+
+TEST_F(Forms, TheCountOfTheUseBeforeStandsAfterATitleBarClose) {
+  user.Use<frmLists>("cmdFastList", [](frmLists& form) {
+    form.MySlider.MoveTo(2);
+    EXPECT_EQ(form.lblItems.Caption(), "2");
+    form.cmdInsert.Click();
+  });
+  user.Use<frmLists>("cmdFastList", [](frmLists& form) {
+    EXPECT_EQ(form.MySlider.Value(), 1);
+    form.MySlider.MoveTo(9);
+    form.cmdCancel.Click();
+  });
+  const auto closeUnder = [](const char* caption) {
+    return [caption](frmListItems& form) {
+      EXPECT_EQ(form.Caption(), caption);
+      form.MySlider.MoveTo(7);
+      EXPECT_EQ(form.lblItems.Caption(), "7");
+      form.UserClose();
+    };
+  };
+  user.Put("«»");
+  desktop.OnModal<frmListItems>(closeUnder("How Many Items In The Select?"));
+  desktop.ExpectInputBox("Name:", "Tagsmith", "", "s");
+  user.Click("cmdSelect");
+  EXPECT_EQ(user.Shown(), "<SELECT Name=\"s\">\r\n   <Option>\r\n   <Option>\r\n</SELECT>\r\n«»");
+  user.Put("«»");
+  user.Use<frmListItems>("cmdUL", closeUnder("How Many List Items?"));
+  EXPECT_EQ(user.Shown(), "<UL>\r\n   <LI>«»</LI>\r\n   <LI></LI>\r\n</UL>\r\n");
+}
+
+TEST_F(Forms, NumberingCanBeChosenForOrderedListsOnly) {
+  const char* const kStarts[] = {"1", "I", "A", "a"};
+  for (int start = 0; start < 4; ++start) {
+    user.Use<frmLists>("cmdFastList", [&](frmLists& form) {
+      EXPECT_TRUE(form.optList(0).Value());
+      EXPECT_TRUE(form.fraOptions.Enabled());
+      form.optAttributes(start).Click();
+      for (const int kind : {1, 0, 2}) {
+        form.optList(kind).Click();
+        EXPECT_EQ(form.fraOptions.Enabled(), kind == 0);
+      }
+      form.cmdInsert.Click();
+    });
+    EXPECT_EQ(user.app.gListStart, kStarts[start]) << "taken whatever the kind";
+    EXPECT_EQ(user.app.gListKind, 2);
+  }
+  user.Use<frmLists>("cmdFastList", [](frmLists& form) { form.cmdInsert.Click(); });
+  EXPECT_EQ(user.app.gListStart, "");
+}
+
+// --- Colours ---
+
+constexpr Colour kPicked = 0x123456;
+
+/// `next` is what the colour dialog gives, nothing for Cancel; `expected` is the colour afterwards.
+void Pick(ScriptedDesktop& desktop, CommandButton& change, std::optional<Colour> next,
+          const Shape& shape, Colour expected) {
+  desktop.ExpectColour(next);
+  change.Click();
+  EXPECT_EQ(shape.FillColor(), expected);
+}
+
+template <class T>
+void Forms::ExpectColourRule(std::string_view button, CommandButton T::*change, Shape T::*shape) {
+  user.Use<T>(button, [&](T& form) {
+    EXPECT_EQ((form.*shape).FillColor(), kWhite);
+    form.MyDialog.cancelError = true;
+    Pick(desktop, form.*change, {}, form.*shape, kWhite);
+    form.MyDialog.cancelError = false;
+    Pick(desktop, form.*change, {}, form.*shape, kBlack);
+    Pick(desktop, form.*change, kPicked, form.*shape, kPicked);
+    Pick(desktop, form.*change, {}, form.*shape, kPicked);
+    form.UserClose();
+  });
+}
+
+TEST_F(Forms, ACancelledPickIsTheLastColourAndAFailedOneNone) {
+  for (int use = 0; use < 2; ++use) {
+    ExpectColourRule("cmdFastColor", &frmColors::cmdColors, &frmColors::shpColors);
+    ExpectColourRule("cmdFastLine", &frmHR::cmdChange, &frmHR::shpColor);
+    ExpectColourRule("cmdMarquee", &frmMarquee::cmdChange, &frmMarquee::shpColor);
+    ExpectColourRule("cmdFastTable", &frmTables::cmdChange, &frmTables::shpColor);
+  }
+}
+
+TEST_F(Forms, ThePageColoursShareOneDialogAndArePreviewed) {
+  user.Use<frmJumpStart>("cmdEasyBegin", [&](frmJumpStart& form) {
+    Pick(desktop, form.cmdColors(3), {}, form.shpColors(3), kBlack);
+    Pick(desktop, form.cmdColors(0), kPicked, form.shpColors(0), kPicked);
+    Pick(desktop, form.cmdColors(4), {}, form.shpColors(4), kPicked);
+    EXPECT_EQ(form.shpColors(1).FillColor(), kWhite);
+    EXPECT_EQ(form.picBackColor.BackColor(), kPicked);
+    const Colour kExpected[] = {kWhite, kWhite, kBlack, kPicked};
+    for (int i = 0; i < 4; ++i) EXPECT_EQ(form.lblText(i).ForeColor(), kExpected[i]);
+    form.UserClose();
+  });
+}
+
+TEST_F(Forms, ColourNamesAreOfferedWithTheCheckBox) {
+  user.Use<frmColors>("cmdFastColor", [](frmColors& form) {
+    EXPECT_EQ(form.lstColors.ListCount(), 92);
+    EXPECT_EQ(form.lstColors.List(91), "YELLOWGREEN");
+    for (const bool enabled : {false, true, false}) {
+      EXPECT_EQ(form.lstColors.Enabled(), enabled);
+      form.chkColor.Click();
+    }
+    form.UserClose();
+  });
+}
+
+// --- Tables ---
+
+TEST_F(Forms, ACellOfATableShowsWhatWasSavedInIt) {
+  user.Use<frmTables>("cmdFastTable", [](frmTables& form) {
+    EXPECT_EQ(form.lblCoord.Caption(), "");
+    form.sldRows.MoveTo(20);
+    form.sldCols.MoveTo(20);
+    form.MyTable.Select(1, 2);
+    EXPECT_EQ(form.lblCoord.Caption(), "(2, 3)");
+    form.txtCellText.UserEdit(" ü\r\n");
+    form.cmdSave.Click();
+    EXPECT_EQ(form.MyTable.TextAt(1, 2), " ü\r\n");
+    form.MyTable.Select(19, 19);
+    EXPECT_EQ(form.lblCoord.Caption(), "(20, 20)");
+    EXPECT_EQ(form.txtCellText.Text(), "");
+    form.txtCellText.Type("last");
+    form.cmdSave.Click();
+    form.txtCellText.Type(" unsaved");
+    form.MyTable.Select(1, 2);
+    EXPECT_EQ(form.txtCellText.Text(), " ü\r\n");
+
+    form.sldRows.MoveTo(1);
+    form.sldCols.MoveTo(1);
+    form.sldRows.MoveTo(20);
+    form.sldCols.MoveTo(20);
+    for (const auto& [row, column, text] : {std::tuple{1, 2, " ü\r\n"}, {19, 19, "last"}}) {
+      EXPECT_EQ(form.MyTable.TextAt(row, column), "");
+      form.MyTable.Select(row, column);
+      EXPECT_EQ(form.txtCellText.Text(), text);
+      EXPECT_EQ(form.MyTable.TextAt(row, column), text);
+    }
+    form.cmdCancel.Click();
+  });
+}
+
+// --- Whole pages ---
+
+struct PageDialog {
+  const char* button;
+  const char* prompt;
+  std::pair<const char*, int> create;
+  std::pair<const char*, int> cancel;
+};
+
+constexpr PageDialog kPageDialogs[] = {
+    {"cmdFrameDialog",
+     "Save Current Before Opening Another File?",
+     {"cmdChoice", 1},
+     {"cmdChoice", 3}},
+    {"cmdEasyBegin",
+     "Save Current File Before Opening Another?",
+     {"cmdCreate", Control::kNoIndex},
+     {"cmdCancel", Control::kNoIndex}},
+};
+
+void ExpectDocument(const frmMain& form, std::string_view name, bool changed) {
+  EXPECT_EQ(form.DocumentName(), name);
+  EXPECT_EQ(form.Caption(), std::string("Tagsmith - ").append(name));
+  EXPECT_EQ(form.DocumentChanged(), changed);
+  EXPECT_EQ(form.cmdSave.Enabled(), changed);
+}
+
+/// Edits a page, opens the dialog, answers its question, and creates the new page or cancels.
+void ReplaceEditedPage(const PageDialog& dialog, int answer, bool create) {
+  User user;
+  user.desktop.files.AddFile("c:\\page.html", "ä");
+  user.Begin("c:\\page.html");
+  user.Pane().Type("x");
+  user.desktop.ExpectMsgBox(dialog.prompt, kYesNo + kQuestionIcon, "Save on Open...", answer);
+  user.Use<Form>(dialog.button, [&](Form& form) {
+    const auto [name, index] = create ? dialog.create : dialog.cancel;
+    form.Get<CommandButton>(name, index).Click();
+  });
+  EXPECT_EQ(user.desktop.files.Contents("c:\\page.html"), answer == kYes ? "äx\r\n" : "ä");
+  create ? ExpectDocument(user.form, "Untitled.html", false)
+         : ExpectDocument(user.form, "c:\\page.html", answer == kNo);
+  EXPECT_EQ(user.form.txtEdit.Text() == "äx", !create);
+}
+
+TEST(PageDialogs, AskAboutEditsAndLeaveANewDocumentOrTheOld) {
+  for (const PageDialog& dialog : kPageDialogs) {
+    for (const int answer : {kYes, kNo}) {
+      for (const bool create : {true, false}) {
+        SCOPED_TRACE(testing::Message() << dialog.button << " " << answer << " " << create);
+        ReplaceEditedPage(dialog, answer, create);
+      }
+    }
+  }
+}
+
+// --- User buttons ---
+
+/// The texts of a button, where some lack one of the two.
+std::pair<std::string, std::string> TextsOf(int button) {
+  const std::string number = std::to_string(button);
+  return {button == 2 ? "" : "<ö" + number + ">\r\n ", button == 9 ? "" : " \r\n</" + number + ">"};
+}
+
+void Define(toolbars::frmUD& form) {
+  for (int i = 0; i < kUserButtonCount; ++i) {
+    const auto [open, close] = TextsOf(i);
+    form.txtUDO(i).UserEdit(open);
+    form.txtUDC(i).UserEdit(close);
+  }
+}
+
+TEST(UserButtons, KeepTheirTextsBeyondARestart) {
+  MemorySettings kept;
+  {
+    User user;
+    user.Begin();
+    EXPECT_EQ(user.form.Get<CommandButton>("cmdUD", 0).ToolTipText(), "Not Defined");
+    user.Put("ä«ö»z");
+    user.Click("cmdUD", 0);
+    EXPECT_EQ(user.form.txtEdit.Text(), "äöz");
+    user.desktop.OnModal<toolbars::frmUD>([](toolbars::frmUD& form) {
+      Define(form);
+      form.cmdSave.Click();
+    });
+    user.form.mnuUserButtons.Click();
+    kept = user.desktop.settings;
+  }
+  EXPECT_EQ(kept.values.at("Settings/UDO10"), "<ö9>\r\n ");
+  User user;
+  user.desktop.settings = kept;
+  user.Begin();
+  for (int i = 0; i < kUserButtonCount; ++i) {
+    const auto [open, close] = TextsOf(i);
+    user.Put("ä«é»z");
+    user.Click("cmdUD", i);
+    EXPECT_EQ(user.Shown(), std::string("ä").append(open).append("é").append(close) + "«»z");
+    EXPECT_EQ(user.form.Get<CommandButton>("cmdUD", i).ToolTipText(),
+              open.empty() ? "Not Defined" : std::string(open).append(" ").append(close));
+  }
+}
+
+TEST_F(Forms, UserButtonsKeepTheirTextsWhenTheirDialogIsNotSaved) {
+  user.app.gUserOpenTags[4] = "<ö>\r\n";
+  for (const bool byTitleBar : {false, true}) {
+    desktop.OnModal<toolbars::frmUD>([&](toolbars::frmUD& form) {
+      EXPECT_EQ(form.txtUDO(4).Text(), "<ö>\r\n");
+      Define(form);
+      byTitleBar ? form.UserClose() : form.cmdCancel.Click();
+    });
+    user.form.mnuUserButtons.Click();
+    EXPECT_EQ(desktop.settings.values["Settings/UDO5"], "<ö>\r\n");
+    EXPECT_EQ(desktop.settings.values["Settings/UDC5"], "");
+  }
+}
+
+// --- Prompts, and large texts ---
+
+TEST_F(Forms, InputControlsDifferInTheirType) {
+  const std::pair<const char*, std::string> kTypes[] = {
+      {"cmdButton", "Button"}, {"cmdTextbox", "Text"}, {"cmdPassword", "Password"},
+      {"cmdHidden", "Hidden"}, {"cmdRadio", "Radio"},  {"cmdCheckBox", "Checkbox"}};
+  for (const auto& [button, type] : kTypes) {
+    user.Put("«»");
+    desktop.ExpectInputBox("Name:", "Tagsmith", "", "n");
+    desktop.ExpectInputBox("Value:", "Tagsmith", "", "v");
+    user.Click(button);
+    EXPECT_EQ(user.Shown(), "<INPUT Type=\"" + type + "\" Name=\"n\" Value=\"v\"></INPUT>«»");
+  }
+}
+
+TEST_F(Forms, LargeTextsGoThroughAFormWhole) {
+  std::string lines;
+  for (int i = 0; i < 100'000; ++i) lines += "<é>\r\n";
+  const std::string url(100'000, '"');
+  user.Put("«" + lines + "»");
+  user.Use<Form>("cmdComment", [](Form& form) { form.Get<CommandButton>("cmdInsert").Click(); });
+  EXPECT_TRUE(user.form.txtEdit.Text() == "<!-- " + lines + " -->");
+  user.Put("«" + lines + "»");
+  user.Use<Form>("cmdFastAnchor", [&](Form& form) {
+    form.Get<TextBox>("txtURL").UserEdit(url);
+    form.Get<CommandButton>("cmdInsert").Click();
+  });
+  EXPECT_TRUE(user.form.txtEdit.Text() == "<A HREF=\"" + url + "\">" + lines + "</A>");
+}
+
+}  // namespace
+}  // namespace tagsmith::dialogs
