@@ -7,13 +7,12 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QTemporaryDir>
 #include <fstream>
 #include <iterator>
 #include <memory>
 #include <string>
 
-#include "app/Composition.h"
+#include "RunningProgram.h"
 #include "core/EditingCommands.h"
 #include "services/Lines.h"
 
@@ -39,31 +38,6 @@ std::string Lines(std::size_t count) {
   std::string text;
   for (std::size_t i = 0; i < count; ++i) text += "  call(" + std::to_string(i) + ");\r\n";
   return text;
-}
-
-// The running program, its window on the (virtual) screen, its settings in a folder of its own.
-class Program {
- public:
-  Program() : composition_(1, kArguments, folder_.filePath("settings.json").toStdString()) {
-    composition_.Start();
-    QApplication::processEvents();
-  }
-
-  frmMain& Form() { return composition_.MainForm(); }
-  QString FilePath(const char* name) const { return folder_.filePath(name); }
-
-  static void Paint() { QApplication::processEvents(); }
-
- private:
-  static constexpr const char* kArguments[] = {"tagsmith"};
-
-  QTemporaryDir folder_;
-  Composition composition_;
-};
-
-Program& TheProgram() {
-  static Program program;
-  return program;
 }
 
 // The bare component with HTML colours and line numbers, in a window of its own.
