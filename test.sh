@@ -6,8 +6,9 @@ root=$(cd "$(dirname "$0")" && pwd)
 
 # Real pages for the load-and-save test come from documentation packages; the desktop test works
 # the program in a real window.
+# Generated pages run in a real browser, and on PHP with a real database.
 TEST_PACKAGES="xauth xvfb xdotool openbox x11-utils imagemagick debian-faq debian-policy git-doc sqlite3-doc
-    libjs-jquery libjs-bootstrap php-pear"
+    libjs-jquery libjs-bootstrap php-pear chromium python3 php-cli php-odbc libsqliteodbc tidy"
 
 install_packages $BUILD_PACKAGES $TEST_PACKAGES
 build release

@@ -4,6 +4,7 @@
 
 #include "core/Startup.h"
 #include "dialogs/Install.h"
+#include "generators/Install.h"
 #include "services/host/CommandTail.h"
 #include "services/host/ProgramDirectory.h"
 #include "toolbars/Install.h"
@@ -38,6 +39,7 @@ Composition::Composition(int argc, const char* const* argv, std::string settings
       mainForm_(application_) {
   toolbars::Install(application_);  // First: it makes the buttons of the pages.
   dialogs::Install(application_);
+  generators::Install(application_);
 }
 
 void Composition::Start() { tagsmith::Start(application_, mainForm_); }
