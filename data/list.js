@@ -134,10 +134,15 @@ var List = (function () {
   // The page gives widths that suit the window; a window of another width gets others.
   function fit(scale) {
     lines.forEach(function (line) {
-      var width = line.list.width * scale - line.indent;
+      var width = widthOf(line.list, scale) - line.indent;
       line.element.style.width = Math.max(width, NARROWEST) + 'px';
     });
     arrange();
+  }
+
+  // A page that is built before it is on show has given no width.
+  function widthOf(list, scale) {
+    return list.width > 0 ? list.width * scale : 3 * document.body.clientWidth / 4;
   }
 
   // Writing, then measuring, then writing: a measure between writes would lay out the whole page
@@ -193,7 +198,7 @@ var List = (function () {
   style.textContent = STYLE;
   document.head.appendChild(style);
   window.addEventListener('resize', function () {
-    if (root) fit(document.body.clientWidth / root.windowWidth);
+    if (root) fit(root.windowWidth > 0 ? document.body.clientWidth / root.windowWidth : 1);
   });
 
   return List;

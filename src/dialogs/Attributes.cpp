@@ -8,8 +8,10 @@ void AppendAttribute(std::string& tag, std::string_view name, std::string_view f
   tag.append(" ").append(name).append("=\"").append(Trim(field)).append("\"");
 }
 
-void AppendIfFilled(std::string& tag, std::string_view name, std::string_view field) {
-  if (!field.empty()) AppendAttribute(tag, name, field);
+void AppendFilled(std::string& tag, std::initializer_list<Attribute> attributes) {
+  for (const Attribute& attribute : attributes) {
+    if (!attribute.field.empty()) AppendAttribute(tag, attribute.name, attribute.field);
+  }
 }
 
 void AppendColour(std::string& tag, std::string_view name, Colour colour) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -14,8 +15,15 @@ namespace tagsmith::dialogs {
 /// the blanks at its ends.
 void AppendAttribute(std::string& tag, std::string_view name, std::string_view field);
 
-/// As `AppendAttribute`, but nothing for a field that was left empty; blanks alone count as filled.
-void AppendIfFilled(std::string& tag, std::string_view name, std::string_view field);
+/// A name and what stands in its field.
+struct Attribute {
+  std::string_view name;
+  std::string_view field;
+};
+
+/// As `AppendAttribute` for each, but nothing for a field that was left empty; blanks alone count
+/// as filled.
+void AppendFilled(std::string& tag, std::initializer_list<Attribute> attributes);
 
 /// Appends ` Name="#RRGGBB"`.
 void AppendColour(std::string& tag, std::string_view name, Colour colour);

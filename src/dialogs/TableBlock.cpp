@@ -14,12 +14,12 @@ constexpr std::string_view kCellIndent = "          ";
 
 std::string OpeningTag(const TableFields& fields) {
   std::string tag = "<TABLE";
-  AppendIfFilled(tag, "Width", fields.width);
-  AppendIfFilled(tag, "Border", fields.borderWidth);
-  AppendIfFilled(tag, "CellSpacing", fields.cellSpacing);
-  AppendIfFilled(tag, "CellPadding", fields.cellPadding);
-  AppendIfFilled(tag, "Align", fields.align);
-  AppendIfFilled(tag, "VAlign", fields.vAlign);
+  AppendFilled(tag, {{"Width", fields.width},
+                     {"Border", fields.borderWidth},
+                     {"CellSpacing", fields.cellSpacing},
+                     {"CellPadding", fields.cellPadding},
+                     {"Align", fields.align},
+                     {"VAlign", fields.vAlign}});
   AppendColour(tag, "BgColor", fields.background);
   return tag + ">";
 }

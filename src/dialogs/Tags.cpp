@@ -12,9 +12,7 @@ std::string ColourValue(const ColourFields& fields) {
 std::string AnchorTag(const AnchorFields& fields) {
   std::string tag = "<A";
   AppendAttribute(tag, "HREF", fields.url);
-  AppendIfFilled(tag, "Target", fields.target);
-  AppendIfFilled(tag, "Name", fields.name);
-  AppendIfFilled(tag, "Id", fields.id);
+  AppendFilled(tag, {{"Target", fields.target}, {"Name", fields.name}, {"Id", fields.id}});
   return tag.append(">").append(Trim(fields.text)).append("</A>");
 }
 
@@ -25,43 +23,41 @@ std::string CommentTag(const std::string& text) {
 std::string ImageTag(const ImageFields& fields) {
   std::string tag = "<IMG";
   AppendAttribute(tag, "Src", fields.url);
-  AppendIfFilled(tag, "Alt", fields.alt);
-  AppendIfFilled(tag, "Height", fields.height);
-  AppendIfFilled(tag, "Width", fields.width);
-  AppendIfFilled(tag, "HSpace", fields.hSpace);
-  AppendIfFilled(tag, "VSpace", fields.vSpace);
-  AppendIfFilled(tag, "Border", fields.border);
-  AppendIfFilled(tag, "DynSrc", fields.dynSrc);
-  AppendIfFilled(tag, "Loop", fields.loop);
-  AppendIfFilled(tag, "Align", fields.align);
-  AppendIfFilled(tag, "Id", fields.id);
+  AppendFilled(tag, {{"Alt", fields.alt},
+                     {"Height", fields.height},
+                     {"Width", fields.width},
+                     {"HSpace", fields.hSpace},
+                     {"VSpace", fields.vSpace},
+                     {"Border", fields.border},
+                     {"DynSrc", fields.dynSrc},
+                     {"Loop", fields.loop},
+                     {"Align", fields.align},
+                     {"Id", fields.id}});
   return tag + ">";
 }
 
 std::string LineTag(const LineFields& fields) {
   std::string tag = "<HR";
-  AppendIfFilled(tag, "Align", fields.align);
-  AppendIfFilled(tag, "Size", fields.size);
-  AppendIfFilled(tag, "Width", fields.width);
+  AppendFilled(tag, {{"Align", fields.align}, {"Size", fields.size}, {"Width", fields.width}});
   AppendColour(tag, "Color", fields.colour);
-  AppendIfFilled(tag, "Id", fields.id);
+  AppendFilled(tag, {{"Id", fields.id}});
   return tag + ">";
 }
 
 std::string MarqueeTag(const MarqueeFields& fields) {
   std::string tag = "<MARQUEE";
-  AppendIfFilled(tag, "Height", fields.height);
-  AppendIfFilled(tag, "Width", fields.width);
-  AppendIfFilled(tag, "HSpace", fields.hSpace);
-  AppendIfFilled(tag, "VSpace", fields.vSpace);
-  AppendIfFilled(tag, "ScrollAmount", fields.scrollAmount);
-  AppendIfFilled(tag, "ScrollDelay", fields.scrollDelay);
-  AppendIfFilled(tag, "Align", fields.align);
-  AppendIfFilled(tag, "Behavior", fields.behavior);
-  AppendIfFilled(tag, "Direction", fields.direction);
-  AppendIfFilled(tag, "Loop", fields.loop);
+  AppendFilled(tag, {{"Height", fields.height},
+                     {"Width", fields.width},
+                     {"HSpace", fields.hSpace},
+                     {"VSpace", fields.vSpace},
+                     {"ScrollAmount", fields.scrollAmount},
+                     {"ScrollDelay", fields.scrollDelay},
+                     {"Align", fields.align},
+                     {"Behavior", fields.behavior},
+                     {"Direction", fields.direction},
+                     {"Loop", fields.loop}});
   AppendColour(tag, "BgColor", fields.background);
-  AppendIfFilled(tag, "Id", fields.id);
+  AppendFilled(tag, {{"Id", fields.id}});
   tag += ">";
   if (!fields.text.empty()) tag.append(Trim(fields.text)).append("</MARQUEE>");
   return tag;

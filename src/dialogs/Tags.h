@@ -6,8 +6,8 @@
 
 namespace tagsmith::dialogs {
 
-// What the small dialogs make, from what stands in their fields. The members are the
-// fields' texts as typed, in the order in which they are written.
+// What the small dialogs make, from what stands in their fields. The members are the fields' texts
+// as typed, in the order in which they are written.
 
 struct ColourFields {
   bool isNamed = false;

@@ -11,8 +11,8 @@ constexpr Twips kColumnWidth = 375;
 constexpr Colour kColumnColour = 0xBF8E6C;
 
 struct SketchLine {
-  int layout;
   const char* name;
+  int layout;
   Twips left;
   Twips top;
   Twips width;
@@ -21,11 +21,11 @@ struct SketchLine {
 constexpr Twips kRightPart = kSketchSize - kColumnWidth;
 
 constexpr SketchLine kLines[] = {
-    {0, "Line1", kColumnWidth, kSketchSize / 2, kRightPart},
-    {1, "Line1", kColumnWidth, 600, kRightPart},
-    {1, "Line2", kColumnWidth, 1200, kRightPart},
-    {2, "Line1", kColumnWidth, kSketchSize / 2, kRightPart},
-    {2, "Line3", 0, 225, kColumnWidth},
+    {"Line1", 0, kColumnWidth, kSketchSize / 2, kRightPart},
+    {"Line1", 1, kColumnWidth, 600, kRightPart},
+    {"Line2", 1, kColumnWidth, 1200, kRightPart},
+    {"Line1", 2, kColumnWidth, kSketchSize / 2, kRightPart},
+    {"Line3", 2, 0, 225, kColumnWidth},
 };
 
 constexpr int kCancelChoice = kFrameSetCount;

@@ -20,6 +20,7 @@ int ChosenOf(const ControlArray<OptionButton>& options) {
 
 Arrangement Stacked(const ControlArray<OptionButton>& options) {
   std::vector<Arrangement> all;
+  all.reserve(static_cast<std::size_t>(options.Count()));
   for (int i = 0; i < options.Count(); ++i) all.emplace_back(options(i));
   return Column(std::move(all));
 }

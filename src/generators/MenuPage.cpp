@@ -3,6 +3,8 @@
 #include <cstddef>
 
 #include "core/Template.h"
+#include "services/Lines.h"
+#include "services/Utf8.h"
 
 namespace tagsmith::generators {
 namespace {
@@ -91,11 +93,20 @@ void TopicScript::Add(std::size_t index, std::string_view line) {
   text_ += FillTemplate(kTopicClosing, {{"topic", topic}, {"i", number}});
 }
 
+// Takes the first line off the front of `rest`, and gives it without its line end.
+std::string_view TakeLine(std::string_view& rest) {
+  const std::size_t next = NextLineStart(rest, 0);
+  std::string_view line = rest.substr(0, next);
+  rest.remove_prefix(next);
+  while (line.ends_with('\r') || line.ends_with('\n')) line.remove_suffix(1);
+  return line;
+}
+
 TopicScript ReadTopics(std::string_view menu) {
+  if (menu.starts_with(kByteOrderMark)) menu.remove_prefix(kByteOrderMark.size());
   TopicScript script;
   for (std::size_t index = 0; !menu.empty(); ++index) {
-    std::string_view line = TakePart(menu, "\n");
-    if (line.ends_with('\r')) line.remove_suffix(1);
+    const std::string_view line = TakeLine(menu);
     if (!line.empty()) script.Add(index, line);
   }
   return script;

@@ -3,14 +3,14 @@
 #include <array>
 #include <cstddef>
 
+#include "services/Utf8.h"
+
 namespace tagsmith::generators {
 namespace {
 
 // In the order of the file's lines.
 constexpr std::array kValues = {&PhpProject::dsn, &PhpProject::table, &PhpProject::user,
                                 &PhpProject::password, &PhpProject::fields};
-
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 bool IsLineEnd(char c) { return c == '\r' || c == '\n'; }
 

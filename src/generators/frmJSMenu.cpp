@@ -1,5 +1,6 @@
 #include "generators/frmJSMenu.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/Application.h"
@@ -11,6 +12,7 @@
 #include "services/Dialogs.h"
 #include "services/Error.h"
 #include "services/FileSystem.h"
+#include "services/Utf8.h"
 
 namespace tagsmith::generators {
 namespace {
@@ -33,6 +35,13 @@ Here Is An Example:
 
 "Download Sites|Example Site|http://www.example.com|Another Site|http://www.example.org"
 )";
+
+// The page names no encoding; where that matters a mark in front does.
+std::string Marked(std::string page) {
+  const bool isAscii =
+      std::none_of(page.begin(), page.end(), [](char c) { return (c & 0x80) != 0; });
+  return isAscii ? page : page.insert(0, kByteOrderMark);
+}
 
 }  // namespace
 
@@ -61,9 +70,10 @@ void frmJSMenu::SetLooks() {
 }
 
 void frmJSMenu::Bind() {
-  onLoad = [this] { CreateNewMenu = true; };
-  mnuFile.onClick = onLoad.Bound();
-  mnuNew.onClick = onLoad.Bound();
+  const auto nameNewFile = [this] { CreateNewMenu = true; };
+  onLoad = nameNewFile;
+  mnuFile.onClick = nameNewFile;
+  mnuNew.onClick = nameNewFile;
   mnuOpen.onClick = [this] { CreateNewMenu = false; };
   mnuExit.onClick = [this] { Unload(); };
   mnuHelp.onClick = [this] { mnuHelp_Click(); };
@@ -165,7 +175,7 @@ void frmJSMenu::cmdCreate_Click() {
     return Refuse("You must supply a set of items to build the menu", "Sorry", rtfEdit);
   }
   try {
-    WriteText(path, MenuPage(rtfEdit.Text()), TextEncoding::kUtf8);
+    WriteText(path, Marked(MenuPage(rtfEdit.Text())), TextEncoding::kUtf8);
     CopyMenuSupportFiles(application_, path);
   } catch (const std::exception&) {  // Ends without a word; what was written stays.
     return;

@@ -19,6 +19,10 @@ DecodedChar DecodeUtf8(std::string_view text, std::size_t position);
 /// Appends the UTF-8 form of `codePoint` to `text`.
 void AppendUtf8(std::string& text, char32_t codePoint);
 
+/// What a text in UTF-8 may begin with to tell that it is UTF-8 (The Unicode Standard,
+/// section 23.8).
+inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
 bool IsValidUtf8(std::string_view text);
 
 /// The start of the character that byte `position` falls into; positions behind the text give its

@@ -3,6 +3,7 @@
 #include "core/Template.h"
 #include "generators/MenuPage.h"
 #include "generators/frmJSMenu.h"
+#include "services/Utf8.h"
 #include "support/RunningProgram.h"
 
 namespace tagsmith::generators {
@@ -25,7 +26,7 @@ myList.addList(mySubList2,"<B>{i}</B>");
 )";
 
 TEST(MenuPage, NumbersEmptyLinesTooAndTakesWholePairsAsTheyAre) {
-  const std::string page = MenuPage("Tö|\"a\"|{}|B\r\n\n{i}\r\n");
+  const std::string page = MenuPage("\xEF\xBB\xBFTö|\"a\"|{}|B\r\n\n{i}\r");
   EXPECT_NE(page.find(FillTemplate(kScript)), std::string::npos) << page;
   // Two topics and one pair count four.
   EXPECT_NE(page.find("\r\n#lItem4{position:absolute}\r\n</STYLE></HEAD>"), std::string::npos);
@@ -102,7 +103,8 @@ TEST_F(MenuDialog, PutsTheSupportFilesBesideThePageOnlyWhereTheyAreMissing) {
   files.AddFile("c:\\séte\\false.gif", "mine");
   form.rtfEdit.SetText("Téa|Green|green.html");
   Create("c:\\séte\\menu.html");
-  EXPECT_EQ(files.Contents("c:\\séte\\menu.html"), MenuPage("Téa|Green|green.html") + "\r\n");
+  EXPECT_EQ(files.Contents("c:\\séte\\menu.html"),
+            std::string(kByteOrderMark) + MenuPage("Téa|Green|green.html") + "\r\n");
   EXPECT_EQ(files.Contents("c:\\séte\\false.gif"), "mine");
   EXPECT_EQ(files.Contents("c:\\séte\\list.js"), "list.js");
   files.Remove("c:\\tagsmith\\list.js");
