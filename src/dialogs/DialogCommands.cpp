@@ -41,18 +41,21 @@ void ReplaceByDialog(Application& application) {
   ReplaceSelection(application, ResultOf<T>(application));
 }
 
-// There is no way back from this question: No goes on without saving.
-void OfferToSave(Application& application, std::string_view question) {
+// Asks whether edits are to be saved; No goes on without. False if they were to be saved and are
+// not: the user has changed his mind in the file dialog, or the file could not be written.
+bool OfferToSave(Application& application, std::string_view question) {
   frmMain& form = application.MainForm();
-  if (!form.DocumentChanged()) return;
+  if (!form.DocumentChanged()) return true;
   const int answer = application.MsgBox(form, question, kYesNo + kQuestionIcon, "Save on Open...");
-  if (answer == kYes) form.mnuFileSave_Click();
+  if (answer != kYes) return true;
+  form.mnuFileSave_Click();
+  return !form.DocumentChanged();
 }
 
 // For a dialog that makes a whole page.
 template <class T>
 void StartPageByDialog(Application& application, std::string_view question) {
-  OfferToSave(application, question);
+  if (!OfferToSave(application, question)) return;
   const std::string& page = ResultOf<T>(application);
   if (!page.empty()) application.MainForm().ReplaceDocument(page);
 }

@@ -25,6 +25,7 @@ void CopyClassTo(Application& application, const std::string& target) {
     application.platform.files.CopyFile(std::string(source).append(name),
                                         std::string(target).append(name));
   }
+  application.MainForm().MyFileList.Refresh();
 }
 
 void CopyClass(Application& application) {

@@ -101,11 +101,13 @@ void frmJSMenu::mnuHelp_Click() {
 // --- Choosing files ---
 
 void frmJSMenu::cmdBrowse_Click() {
+  MyDialog.defaultExt = "txt";
   Browse(txtImportFile, "Text Files|*.txt",
          CreateNewMenu ? &CommonDialog::ShowSave : &CommonDialog::ShowOpen);
 }
 
 void frmJSMenu::cmdBrowse2_Click() {
+  MyDialog.defaultExt = "html";
   Browse(txtExportFile, "HTML|*.html", &CommonDialog::ShowSave);
 }
 

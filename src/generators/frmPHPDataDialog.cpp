@@ -16,6 +16,8 @@
 namespace tagsmith::generators {
 namespace {
 
+constexpr Twips kDirectoryWidth = 3000;
+
 constexpr std::string_view kTitle = "PHP Database Dialog";
 constexpr std::string_view kFirstDrive = "c:";
 
@@ -53,6 +55,8 @@ frmPHPDataDialog::frmPHPDataDialog(Application& application)
   cmdExit.SetCaption("E&xit");
   for (CheckBox& page : pages_) page.SetValue(1);
   MyDialog.filter = "Text Files|*.txt";
+  MyDialog.defaultExt = "txt";
+  MyDirectory.SetWidth(kDirectoryWidth);
   SetArrangement(Arranged());
   Bind();
 }
@@ -70,6 +74,8 @@ Arrangement frmPHPDataDialog::Arranged() {
 void frmPHPDataDialog::Bind() {
   onLoad = [this] { Form_Load(); };
   MyDrive.onChange = [this] { MyDrive_Change(); };
+  // The pages go where the list is open, not to what is selected in it.
+  MyDirectory.onChange = [this] { MyDirectory.SetToolTipText(MyDirectory.Path()); };
   cmdLoad.onClick = [this] { cmdLoad_Click(); };
   cmdSave.onClick = [this] { cmdSave_Click(); };
   cmdCreate.onClick = [this] { cmdCreate_Click(); };
@@ -77,7 +83,8 @@ void frmPHPDataDialog::Bind() {
 }
 
 void frmPHPDataDialog::Form_Load() {
-  const frmMain& main = application_.MainForm();
+  frmMain& main = application_.MainForm();
+  main.MyDirectory.Refresh();  // Its folder may have gone meanwhile.
   MyDrive.SetDrive(main.MyDrive.Drive());
   MyDirectory.SetPath(main.MyDirectory.Path());
 }

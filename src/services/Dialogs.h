@@ -39,7 +39,8 @@ class Dialogs {
   virtual ~Dialogs() = default;
 
   /// Gives kOk, kCancel, kYes or kNo; the title bar's close button counts as Cancel or, where
-  /// there is no Cancel, as No or OK. Line breaks in `prompt` are shown.
+  /// there is no Cancel, as OK; a box with Yes and No alone has to be answered. Line breaks in
+  /// `prompt` are shown.
   virtual int MsgBox(Form& owner, std::string_view prompt, int flags, std::string_view title) = 0;
 
   /// Gives the typed text; Cancel gives the empty text.

@@ -11,6 +11,10 @@
 namespace tagsmith::toolbars {
 namespace {
 
+std::string ToolTipOf(const std::string& open, const std::string& close) {
+  return open.empty() ? "Not Defined" : open + " " + close;
+}
+
 void mnuUserButtons_Click(Application& application) {
   application.Instance<frmUD>().Show(Modality::kModal);
   SaveUD(application);
@@ -38,11 +42,10 @@ void SaveUD(Application& application) {
 void AssignUDToolTips(Application& application) {
   for (int i = 0; i < kUserButtonCount; ++i) {
     const auto index = static_cast<std::size_t>(i);
-    const std::string& open = application.gUserOpenTags[index];
-    const std::string& close = application.gUserCloseTags[index];
     application.MainForm()
         .Get<CommandButton>("cmdUD", i)
-        .SetToolTipText(open.empty() ? "Not Defined" : open + " " + close);
+        .SetToolTipText(
+            ToolTipOf(application.gUserOpenTags[index], application.gUserCloseTags[index]));
   }
 }
 

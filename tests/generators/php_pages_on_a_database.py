@@ -90,6 +90,8 @@ with tempfile.TemporaryDirectory() as name:
         for page in write_pages(top / str(count), "|".join(f"F{i}|Any" for i in range(count))):
             subprocess.run(PHP + ["-l", page], check=True, stdout=subprocess.DEVNULL)
     assert len(write_pages(top / "site", "FirstName|String|LastName|String|Age|Numeric")) == 7
+    for golden in (pathlib.Path(__file__).parent / "golden_pages").iterdir():
+        assert golden.read_bytes() == (top / "site" / golden.name).read_bytes(), golden.name
     staff = sqlite3.connect(top / "staff.db")
     staff.execute(TABLE)
     at, server = start_server(top)

@@ -1,6 +1,7 @@
 #include "services/desktop/system/QtDialogs.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
@@ -8,6 +9,8 @@
 #include <QFontDatabase>
 #include <QFontDialog>
 #include <QFontInfo>
+#include <QKeyEvent>
+#include <QLabel>
 #include <QMessageBox>
 #include <memory>
 #include <utility>
@@ -56,6 +59,28 @@ QMessageBox::Icon IconOf(int flags) {
   }
 }
 
+/// A box that has to be answered when it offers Yes and No alone: closing it would be neither.
+class QuestionBox final : public QMessageBox {
+ public:
+  using QMessageBox::QMessageBox;
+
+  void SetFlags(int flags) {
+    mayClose_ = (flags & kButtonMask) != kYesNo;
+    setWindowFlag(Qt::WindowCloseButtonHint, mayClose_);
+  }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (mayClose_ || event->key() != Qt::Key_Escape) QMessageBox::keyPressEvent(event);
+  }
+  void closeEvent(QCloseEvent* event) override {
+    mayClose_ ? QMessageBox::closeEvent(event) : event->ignore();
+  }
+
+ private:
+  bool mayClose_ = true;
+};
+
 // The answer that closing the box stands for.
 QMessageBox::StandardButton ClosingButton(int flags) {
   switch (flags & kButtonMask) {
@@ -88,6 +113,17 @@ int AnswerOf(int button) {
 QString NormalLineBreaks(QString text) {
   return text.replace(QLatin1String("\r\n"), QLatin1String("\n"))
       .replace(QLatin1Char('\r'), QLatin1Char('\n'));
+}
+
+// The window is as wide as its title needs.
+void MakeRoomForTitle(QMessageBox& box) {
+  constexpr int kLettersOfButtons = 10;  // What the title bar's buttons take.
+  auto* prompt = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+  if (prompt == nullptr) return;
+  const QFontMetrics metrics = box.fontMetrics();
+  const int icon = box.iconPixmap().isNull() ? 0 : box.iconPixmap().width();
+  prompt->setMinimumWidth(metrics.horizontalAdvance(box.windowTitle()) +
+                          kLettersOfButtons * metrics.averageCharWidth() - icon);
 }
 
 void SetPrompt(QMessageBox& box, std::string_view prompt) {
@@ -202,13 +238,15 @@ QWidget* QtDialogs::ParentFor(Form& owner) const {
 }
 
 int QtDialogs::MsgBox(Form& owner, std::string_view prompt, int flags, std::string_view title) {
-  ModalDialog box(new QMessageBox(ParentFor(owner)));
+  ModalDialog box(new QuestionBox(ParentFor(owner)));
   box->setWindowTitle(TitleOf(title));
   box->setIcon(IconOf(flags));
   SetPrompt(*box, prompt);
   box->setStandardButtons(ButtonsOf(flags));
   box->setDefaultButton(FirstButton(flags));
   box->setEscapeButton(ClosingButton(flags));
+  box->SetFlags(flags);
+  MakeRoomForTitle(*box);
   const int button = box.Run();
   return AnswerOf(button == 0 ? ClosingButton(flags) : button);
 }

@@ -211,13 +211,21 @@ void FormWindow::ShowPointer(int pointer) {
 
 // --- Size ---
 
+// What the title needs beside the title bar's buttons.
+int FormWindow::TitleWidth() const {
+  constexpr int kLettersOfButtons = 12;
+  const QFontMetrics metrics = window_->fontMetrics();
+  return metrics.horizontalAdvance(window_->windowTitle()) +
+         kLettersOfButtons * metrics.averageCharWidth();
+}
+
 QSize FormWindow::ModelClientSize() const {
   return scale_.ToPixels(form_.ScaleWidth(), form_.ScaleHeight());
 }
 
 void FormWindow::FitToArrangement() {
   QSize wanted = window_->Client().layout()->totalSizeHint();
-  wanted.setWidth(std::max(wanted.width(), window_->MenuWidth()));
+  wanted.setWidth(std::max({wanted.width(), window_->MenuWidth(), TitleWidth()}));
   const QSize room = RoomFor(*window_);
   if (window_->SizeFor(wanted).boundedTo(room) != window_->SizeFor(wanted)) {
     window_->MakeScrollable();

@@ -64,6 +64,7 @@ class FormWindow final : public QObject, public FormView, private ViewHost {
 
   // Size.
   QSize ModelClientSize() const;
+  int TitleWidth() const;
   void FitToArrangement();
   void FitToModel();
   void ClientResized(QSize size);

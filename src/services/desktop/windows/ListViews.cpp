@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "services/desktop/system/TextConversion.h"
+#include "services/desktop/windows/TwipsScale.h"
 
 namespace tagsmith {
 namespace {
@@ -64,6 +65,7 @@ DirListView::DirListView(DirListBox& control, ViewHost& host, QWidget& parent)
   Update(Property::kSelection);
   list_->onGesture = [this](const ListGesture& gesture) { Take(gesture); };
   Adopt(list_);
+  Resized();
 }
 
 DirListView::~DirListView() {
@@ -83,6 +85,8 @@ void DirListView::Update(Property property) {
   if (property == Property::kItems) list_->Entries().Reset();
   list_->ShowRow(RowOf(model_.ListIndex()));
 }
+
+void DirListView::Resized() { list_->setMinimumWidth(Host().Scale().ToPixels(model_.Width())); }
 
 void DirListView::Take(const ListGesture& gesture) {
   Host().Act([this, gesture] {

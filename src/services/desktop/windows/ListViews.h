@@ -30,6 +30,7 @@ class DirListView final : public ViewOf<DirListBox> {
 
  private:
   void Update(Property property) override;
+  void Resized() override;
   void Take(const ListGesture& gesture);
   EntrySource Source();
   int RowOf(int index) const { return index + 1 + model_.AncestorCount(); }

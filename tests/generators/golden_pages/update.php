@@ -1,0 +1,33 @@
+<?
+
+// This page was generated with Tagsmith by Orlwick
+
+print ("<HTML>");
+print ("<HEAD><TITLE>Update</TITLE></HEAD>");
+
+print ("<H1>Update</H1><HR><BR>");
+
+// Connect to ODBC DSN and Call the Query
+
+$myDB = odbc_connect("staff","ann","sécret");
+
+if ($FirstName == "") $FirstName = " ";
+if ($LastName == "") $LastName = " ";
+if ($Age == "") $Age = " ";
+
+$query = "UPDATE people SET FirstName='$FirstName', LastName='$LastName', Age='$Age' WHERE ID=$id ";
+
+if ($junk = odbc_exec($myDB,$query)) {
+     print ("<H3>The Record Was Updated</H3>");
+} else {
+     print ("<H3>There Was An Error.  The Record Was Not Updated</H3>");
+}
+
+odbc_close($myDB);
+
+print ("<BR>");
+print ("<A HREF=menu.html>Back To The Menu</A>");
+
+print ("</BODY></HTML>");
+
+?>
