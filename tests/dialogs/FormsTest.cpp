@@ -297,6 +297,19 @@ TEST(PageDialogs, AskAboutEditsAndLeaveANewDocumentOrTheOld) {
   }
 }
 
+TEST(PageDialogs, EndWhereTheEditsWereToBeSavedAndAreNot) {
+  for (const PageDialog& dialog : kPageDialogs) {
+    User user;
+    user.Begin();
+    user.Pane().Type("ä");
+    const std::string before = user.form.txtEdit.Text();
+    user.desktop.ExpectMsgBox(dialog.prompt, kYesNo + kQuestionIcon, "Save on Open...", kYes);
+    user.desktop.ExpectSaveFile(std::nullopt);
+    user.Click(dialog.button);
+    EXPECT_EQ(user.form.txtEdit.Text(), before);
+  }
+}
+
 // --- User buttons ---
 
 /// The texts of a button, where some lack one of the two.
