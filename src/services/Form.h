@@ -25,7 +25,7 @@ enum class Modality { kModeless, kModal };
 enum class BorderStyle {
   kSizable,
   kFixed,       ///< Title bar and close button; the size follows the arrangement.
-  kToolWindow,  ///< As kFixed, with a small title bar.
+  kToolWindow,  ///< As kFixed, for a single small question.
   kNone,        ///< No title bar: a splash.
 };
 

@@ -7,6 +7,7 @@
 #include <QStyledItemDelegate>
 
 #include "services/desktop/system/TextConversion.h"
+#include "services/desktop/windows/Colours.h"
 #include "services/desktop/windows/TwipsScale.h"
 
 namespace tagsmith {
@@ -80,6 +81,16 @@ class CellPainter final : public QStyledItemDelegate {
   }
 };
 
+// The style's own lines cannot be seen on a dark ground.
+QString GridLines(const QPalette& palette) {
+  const QColor rim = RimColour(palette);
+  return QStringLiteral("QTableView { gridline-color: rgba(%1, %2, %3, %4) }")
+      .arg(rim.red())
+      .arg(rim.green())
+      .arg(rim.blue())
+      .arg(rim.alpha());
+}
+
 bool IsArrow(int key) {
   return key == Qt::Key_Left || key == Qt::Key_Up || key == Qt::Key_Right || key == Qt::Key_Down;
 }
@@ -96,6 +107,7 @@ GridView::GridView(MSFlexGrid& control, ViewHost& host, QWidget& parent)
   table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   table_->setTabKeyNavigation(false);
   table_->setWordWrap(false);
+  table_->setStyleSheet(GridLines(table_->palette()));
   table_->horizontalHeader()->hide();
   table_->verticalHeader()->hide();
   const int width = host.Scale().ToPixels(kColumnWidth);
