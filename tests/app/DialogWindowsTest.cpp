@@ -20,6 +20,19 @@ namespace {
 
 using Keys = std::vector<Qt::Key>;
 
+/// Acts as the user does, once the program waits for him.
+class Later {
+ public:
+  explicit Later(const std::function<void()>& act) {
+    timer_.setSingleShot(true);
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, act);
+    timer_.start(0);
+  }
+
+ private:
+  QTimer timer_;
+};
+
 /// The program in its window, with a selected word in the page.
 class DialogWindows : public testing::Test {
  protected:
@@ -36,7 +49,7 @@ class DialogWindows : public testing::Test {
   /// Presses a button of the main window by mouse; `act` is done in the window `name` that opens.
   void Open(const char* button, const char* name, const std::function<void(QWidget&)>& act) {
     bool opened = false;
-    QTimer::singleShot(0, [&] {
+    const Later later([&] {
       QWidget* window = QApplication::activeModalWidget();
       ASSERT_NE(window, nullptr);
       EXPECT_EQ(window->objectName(), name);
@@ -158,7 +171,7 @@ TEST_F(DialogWindows, TableIsBuiltWithTheKeyboardAlone) {
 TEST_F(DialogWindows, JumpStartShowsThePickedColourAndMakesThePage) {
   Open("cmdEasyBegin", "frmJumpStart", [](QWidget& window) {
     Type("Köln");
-    QTimer::singleShot(0, [] {
+    const Later later([] {
       auto* dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
       ASSERT_NE(dialog, nullptr);
       EXPECT_EQ(dialog->currentColor(), QColor(0, 0, 0));
@@ -182,7 +195,7 @@ TEST_F(DialogWindows, FrameDialogAndUserButtonsTakeEffect) {
   EXPECT_NE(Text().find("<FRAMESET ROWS=*,*, 70>"), std::string::npos);
 
   Put("", 0, 0);
-  QTimer::singleShot(0, [] {
+  const Later later([] {
     QWidget* window = QApplication::activeModalWidget();
     ASSERT_TRUE(window != nullptr && HasKeyboard(*window));
     Type("<Q>", {Qt::Key_Return, Qt::Key_Tab}), Type("</Q>");
