@@ -21,9 +21,10 @@ const TemplateValue* MarkedAt(std::string_view rest, std::initializer_list<Templ
 std::string FillTemplate(std::string_view text, std::initializer_list<TemplateValue> values) {
   std::string filled;
   while (!text.empty()) {
-    const std::size_t plain = std::min(text.find_first_of("{\n"), text.size());
-    filled += text.substr(0, plain);
-    text.remove_prefix(plain);
+    const auto* special =
+        std::find_if(text.begin(), text.end(), [](char c) { return c == '{' || c == '\n'; });
+    filled.append(text.begin(), special);
+    text.remove_prefix(static_cast<std::size_t>(special - text.begin()));
     if (text.empty()) break;
     const TemplateValue* value = text.front() == '{' ? MarkedAt(text, values) : nullptr;
     if (value != nullptr) {
