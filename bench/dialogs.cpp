@@ -48,6 +48,7 @@ class CloseWhenPainted : public QObject {
 };
 
 void OpenDialog(benchmark::State& state, const char* button, const char* window) {
+  TheProgram().Form().MarkUnchanged();  // A dialog that makes a page would ask first.
   auto& command = TheProgram().Form().Get<CommandButton>(button);
   for (auto _ : state) {
     const CloseWhenPainted watch(window);
