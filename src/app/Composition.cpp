@@ -7,6 +7,7 @@
 #include "generators/Install.h"
 #include "services/host/CommandTail.h"
 #include "services/host/ProgramDirectory.h"
+#include "sitetools/Install.h"
 #include "toolbars/Install.h"
 
 namespace tagsmith {
@@ -24,22 +25,15 @@ Composition::Composition(int argc, const char* const* argv, std::string settings
                [this](std::string_view path) { return files_.ToHostPath(path); },
                [](std::string_view path) { return DriveMap::ToSystemPath(path); }),
       pictures_([this](std::string_view path) { return files_.ToHostPath(path); }),
-      platform_{windows_,
-                dialogs_,
-                clipboard_,
-                keyboard_,
-                events_,
-                files_,
-                settings_,
-                pictures_,
-                calendar_,
-                ProgramDirectory(),
-                TailOf(argc, argv, files_)},
+      platform_{windows_,  dialogs_, clipboard_,         keyboard_,
+                events_,   files_,   settings_,          pictures_,
+                calendar_, rtf_,     ProgramDirectory(), TailOf(argc, argv, files_)},
       application_(platform_),
       mainForm_(application_) {
   toolbars::Install(application_);  // First: it makes the buttons of the pages.
   dialogs::Install(application_);
   generators::Install(application_);
+  sitetools::Install(application_);
 }
 
 void Composition::Start() { tagsmith::Start(application_, mainForm_); }

@@ -14,6 +14,7 @@
 #include "services/desktop/windows/QtWindowSystem.h"
 #include "services/host/HostCalendar.h"
 #include "services/host/HostFiles.h"
+#include "services/host/HostRtfConversion.h"
 #include "services/host/HostSettings.h"
 
 namespace tagsmith {
@@ -36,6 +37,7 @@ class Composition {
   HostFiles files_;
   HostSettings settings_;
   HostCalendar calendar_;
+  HostRtfConversion rtf_{files_};
   QtWindowSystem windows_;
   QtDialogs dialogs_;
   QtClipboard clipboard_;

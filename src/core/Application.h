@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -72,10 +73,13 @@ class Application {
   std::array<std::string, kUserButtonCount> gUserCloseTags;
   bool gIncludeIdAttribute = false;
   bool gIncludeHeightWidth = false;
-  std::string gExportFormat;
+  std::string gExportFormat;  ///< "EMenu", "IList", "UList" or "OList"; empty counts as "EMenu".
   std::string gDateText;    ///< Empty after a cancel.
   std::string gFileFilter;  ///< For the file dialogs of the main form.
   std::string gBlockCommentSymbol;
+  /// Where frmFind found its text last: 1 for the first byte of the document, 0 for nowhere. It
+  /// outlives the form and takes no notice of edits.
+  std::int32_t FoundPos = 0;
 
  private:
   frmMain* gMainForm_ = nullptr;

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "core/Application.h"
+#include "core/FileLists.h"
 #include "core/Hourglass.h"
-#include "core/frmMain.h"
 #include "core/general1.h"
 #include "services/Dialogs.h"
 #include "services/Error.h"
@@ -19,7 +19,6 @@ namespace {
 constexpr Twips kDirectoryWidth = 3000;
 
 constexpr std::string_view kTitle = "PHP Database Dialog";
-constexpr std::string_view kFirstDrive = "c:";
 
 // In bytes. No project comes near it, and a disk image that was picked by mistake is not read into
 // memory.
@@ -72,32 +71,15 @@ Arrangement frmPHPDataDialog::Arranged() {
 }
 
 void frmPHPDataDialog::Bind() {
-  onLoad = [this] { Form_Load(); };
-  MyDrive.onChange = [this] { MyDrive_Change(); };
+  const FileLists lists{*this, MyDrive, MyDirectory};
+  onLoad = [this, lists] { OpenAtMainForm(application_, lists); };
   // The pages go where the list is open, not to what is selected in it.
-  MyDirectory.onChange = [this] { MyDirectory.SetToolTipText(MyDirectory.Path()); };
+  ChainFileLists(application_, lists,
+                 [this] { MyDirectory.SetToolTipText(MyDirectory.Path()); });
   cmdLoad.onClick = [this] { cmdLoad_Click(); };
   cmdSave.onClick = [this] { cmdSave_Click(); };
   cmdCreate.onClick = [this] { cmdCreate_Click(); };
   cmdExit.onClick = [this] { Unload(); };
-}
-
-void frmPHPDataDialog::Form_Load() {
-  frmMain& main = application_.MainForm();
-  main.MyDirectory.Refresh();  // Its folder may have gone meanwhile.
-  MyDrive.SetDrive(main.MyDrive.Drive());
-  MyDirectory.SetPath(main.MyDirectory.Path());
-}
-
-void frmPHPDataDialog::MyDrive_Change() {
-  try {
-    MyDirectory.SetPath(MyDrive.Drive());
-  } catch (const Error&) {
-    application_.MsgBox(*this, "Please Insert A Disk In The Drive First", kInformationIcon,
-                        "Sorry...");
-    // A first drive that cannot be read itself must not bring the question again and again.
-    if (!MyDrive.Drive().starts_with(kFirstDrive)) MyDrive.SetDrive(kFirstDrive);
-  }
 }
 
 void frmPHPDataDialog::Inform(std::string_view prompt) {

@@ -62,8 +62,6 @@ class frmPHPDataDialog : public Form {
  private:
   void Bind();
   Arrangement Arranged();
-  void Form_Load();
-  void MyDrive_Change();
   void cmdCreate_Click();
   void cmdLoad_Click();
   void cmdSave_Click();

@@ -9,6 +9,10 @@ class EventQueue {
 
   /// Handles the events that are waiting, the user's included, and returns.
   virtual void DoEvents() = 0;
+
+  /// Ends the program at once, as after a failure that leaves nothing to go on with: no form is
+  /// unloaded, nothing is asked or stored. Does not return on a real desktop.
+  virtual void EndProgram() = 0;
 };
 
 }  // namespace tagsmith

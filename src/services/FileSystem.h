@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,6 +16,19 @@ struct Drive {
   std::string label;  ///< What stands in brackets behind the letter: "root", "USB STICK".
   std::string
       root;  ///< The directory that opening the drive shows: "c:\", "c:\media\ann\USB STICK".
+};
+
+/// One entry of a directory.
+struct DirectoryEntry {
+  std::string name;
+  bool isDirectory = false;  ///< A directory, or a symbolic link that leads to one.
+  bool isLink = false;
+};
+
+/// An entry of a directory and the name it is to have.
+struct NewName {
+  std::string from;
+  std::string to;
 };
 
 /// How far a written file must have got before the call returns.
@@ -51,6 +65,9 @@ class FileSystem {
   /// order. A symbolic link counts as what it points to.
   virtual std::vector<std::string> FileNames(std::string_view directory) const = 0;
 
+  /// The files and directories in `directory`, hidden ones left out, in no order.
+  virtual std::vector<DirectoryEntry> Entries(std::string_view directory) const = 0;
+
   /// Whether `path` names something that is there and is not a directory. Never throws: an empty
   /// path and any error give false.
   virtual bool FileExists(std::string_view path) const noexcept = 0;
@@ -68,9 +85,11 @@ class FileSystem {
   /// Copies the file's bytes as `WriteFile` writes them. Replaces a file of the name `to`.
   virtual void CopyFile(std::string_view from, std::string_view to) = 0;
 
-  /// Gives the file or directory at `from` the name `to`. Throws when `to` is taken already, unless
-  /// both name the same entry.
-  virtual void Rename(std::string_view from, std::string_view to) = 0;
+  /// Gives entries of `directory` other names, in order; both names are taken exactly. An entry
+  /// whose new name another one has already stays as it is; gives the names of those. Throws at the
+  /// first that cannot be renamed for another reason; those before it keep their new names.
+  virtual std::vector<std::string> RenameEntries(std::string_view directory,
+                                                 std::span<const NewName> names) = 0;
 };
 
 }  // namespace tagsmith

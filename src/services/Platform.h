@@ -13,6 +13,7 @@ class EventQueue;
 class FileSystem;
 class Keyboard;
 class PictureLoader;
+class RtfConversion;
 class SettingsStore;
 class WindowSystem;
 
@@ -28,6 +29,7 @@ struct Platform {
   SettingsStore& settings;
   PictureLoader& pictures;
   Calendar& calendar;
+  RtfConversion& rtf;
 
   /// The folder beside which the program's own files lie: a system path without a backslash.
   std::string applicationPath;

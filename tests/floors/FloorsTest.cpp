@@ -69,7 +69,7 @@ const std::map<std::string, std::set<std::string>> kMaySee = {
     {"core", {"services"}},
     {"services", {}},
     {"services/rtf", {}},
-    {"services/host", {"services"}},
+    {"services/host", {"services", "services/rtf"}},
     {"services/desktop", {"services"}},
 };
 

@@ -118,6 +118,13 @@ std::vector<std::string> MemoryFiles::NamesIn(std::string_view directory, bool d
   return names;
 }
 
+std::vector<DirectoryEntry> MemoryFiles::Entries(std::string_view directory) const {
+  std::vector<DirectoryEntry> entries;
+  for (std::string& name : NamesIn(directory, true)) entries.push_back({std::move(name), true});
+  for (std::string& name : NamesIn(directory, false)) entries.push_back({std::move(name), false});
+  return entries;
+}
+
 bool MemoryFiles::FileExists(std::string_view path) const noexcept {
   try {
     const auto found = Find(path);
@@ -150,6 +157,32 @@ void MemoryFiles::WriteFile(std::string_view path, std::string_view bytes, Durab
   if (entry.isDirectory) Fail(ErrorCode::kNotARegularFile, "Not a file", path);
   entry.bytes = bytes;
   lastDurability_ = durability;
+}
+
+std::vector<std::string> MemoryFiles::RenameEntries(std::string_view directory,
+                                                    std::span<const NewName> names) {
+  std::vector<std::string> left;
+  for (const NewName& name : names) {
+    const std::string from = Directory(directory).first + "\\" + name.from;
+    const std::string to = Directory(directory).first + "\\" + name.to;
+    if (from == to) continue;
+    const auto found = tree_.find(from);
+    if (found == tree_.end()) Fail(ErrorCode::kFileNotFound, "File not found", from);
+    if (found->second.fault == Fault::kNotWritable) {
+      Fail(ErrorCode::kPermissionDenied, "Permission denied", from);
+    }
+    if (tree_.contains(to)) {
+      left.push_back(name.from);
+      continue;
+    }
+    Tree renamed;
+    for (const auto& [path, entry] : tree_) {
+      const bool isBelow = path == from || path.starts_with(from + "\\");
+      renamed[isBelow ? to + path.substr(from.size()) : path] = entry;
+    }
+    tree_ = std::move(renamed);
+  }
+  return left;
 }
 
 }  // namespace tagsmith

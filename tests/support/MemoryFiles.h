@@ -46,16 +46,15 @@ class MemoryFiles : public FileSystem {
   std::vector<std::string> FileNames(std::string_view directory) const override {
     return NamesIn(directory, false);
   }
+  std::vector<DirectoryEntry> Entries(std::string_view directory) const override;
   bool FileExists(std::string_view path) const noexcept override;
   std::optional<std::string> ReadFile(std::string_view path, std::size_t limit) const override;
   void WriteFile(std::string_view path, std::string_view bytes, Durability durability) override;
   void CopyFile(std::string_view from, std::string_view to) override {
     WriteFile(to, *ReadFile(from, std::string::npos), Durability::kWritten);
   }
-  void Rename(std::string_view from, std::string_view to) override {
-    CopyFile(from, to);
-    Remove(from);
-  }
+  std::vector<std::string> RenameEntries(std::string_view directory,
+                                         std::span<const NewName> names) override;
 
  private:
   struct Entry {

@@ -78,9 +78,25 @@ ScriptedDesktop::ScriptedDesktop()
                .settings = settings,
                .pictures = *this,
                .calendar = calendar,
+               .rtf = rtf,
                .applicationPath = "c:\\tagsmith",
                .commandTail = {}} {
   files.AddDirectory("c:\\tagsmith");
+}
+
+void ScriptedRtfConversion::ScroogeConvertFile(std::string_view from, std::string_view to,
+                                               int reserved3, std::string_view program,
+                                               std::string_view reserved5,
+                                               std::string_view reserved6,
+                                               std::string_view fontName, int reserved8) {
+  calls.push_back({std::string(from),
+                   std::string(to),
+                   {std::string(program), std::string(reserved5), std::string(reserved6),
+                    std::string(fontName)},
+                   reserved3,
+                   reserved8});
+  if (calls.size() == failingCall) throw Error(ErrorCode::kOther, "Not in Rich Text Format");
+  files_.WriteFile(to, "<I>" + std::string(from) + "</I>", Durability::kWritten);
 }
 
 ScriptedDesktop::~ScriptedDesktop() {

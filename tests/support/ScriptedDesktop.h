@@ -20,6 +20,7 @@
 #include "services/Keyboard.h"
 #include "services/Pictures.h"
 #include "services/Platform.h"
+#include "services/RtfConversion.h"
 #include "services/SettingsStore.h"
 #include "services/WindowSystem.h"
 #include "support/MemoryFiles.h"
@@ -82,6 +83,31 @@ class FixedCalendar : public Calendar {
   }
 };
 
+/// Notes the calls; a page is the name of its file in an <I> element.
+class ScriptedRtfConversion : public RtfConversion {
+ public:
+  explicit ScriptedRtfConversion(FileSystem& files) : files_(files) {}
+
+  struct Call {
+    std::string from;
+    std::string to;
+    std::vector<std::string> texts;  ///< Places 4 to 7.
+    int third = 0;
+    int eighth = 0;
+  };
+  std::vector<Call> calls;
+  /// The call with that count, from 1, fails; 0 for none.
+  std::size_t failingCall = 0;
+
+  void ScroogeConvertFile(std::string_view from, std::string_view to, int reserved3,
+                          std::string_view program, std::string_view reserved5,
+                          std::string_view reserved6, std::string_view fontName,
+                          int reserved8) override;
+
+ private:
+  FileSystem& files_;
+};
+
 /// A desktop without a screen. The test lays down the answers to the questions that will be asked,
 /// in their order; a question that was not expected, and an answer that was not used, fail the
 /// test. Modal forms are questions too: their answer is a function that acts as the user.
@@ -100,6 +126,7 @@ class ScriptedDesktop : private WindowSystem,
   MemorySettings settings;
   MemoryClipboard clipboard;
   FixedCalendar calendar;
+  ScriptedRtfConversion rtf{files};
   /// The program's own folder is "c:\tagsmith"; the command tail is empty. Both may be rewritten
   /// before the application starts.
   Platform platform;
@@ -129,6 +156,8 @@ class ScriptedDesktop : private WindowSystem,
   void AddPicture(std::string_view path, int width, int height);
   /// What happens when a long command yields to the event queue.
   std::function<void()> onDoEvents;
+  /// Whether the program has been ended at once.
+  bool programEnded = false;
   /// What the windows were told, in order: "Show frmMain", "RepaintNow frmSplash", ...
   std::vector<std::string> windowLog;
 
@@ -174,6 +203,7 @@ class ScriptedDesktop : private WindowSystem,
   void DoEvents() override {
     if (onDoEvents) onDoEvents();
   }
+  void EndProgram() override { programEnded = true; }
   std::shared_ptr<const Picture> LoadPicture(std::string_view path) override;
 
   std::deque<Step> steps_;

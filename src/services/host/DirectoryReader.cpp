@@ -33,4 +33,11 @@ bool DirectoryReader::IsDirectory(const dirent& entry) const {
          S_ISDIR(status.st_mode);
 }
 
+bool DirectoryReader::IsLink(const dirent& entry) const {
+  if (entry.d_type != DT_UNKNOWN) return entry.d_type == DT_LNK;
+  struct stat status {};
+  return ::fstatat(::dirfd(directory_.get()), entry.d_name, &status, AT_SYMLINK_NOFOLLOW) == 0 &&
+         S_ISLNK(status.st_mode);
+}
+
 }  // namespace tagsmith

@@ -19,6 +19,9 @@ class DirectoryReader {
   /// Whether `entry`, read by this object, is a directory or a symbolic link to one.
   bool IsDirectory(const dirent& entry) const;
 
+  /// Whether `entry`, read by this object, is a symbolic link.
+  bool IsLink(const dirent& entry) const;
+
  private:
   struct Close {
     void operator()(DIR* directory) const { ::closedir(directory); }

@@ -104,6 +104,17 @@ std::vector<std::string> HostFiles::FileNames(std::string_view directory) const 
   return ListNames(directory, false);
 }
 
+std::vector<DirectoryEntry> HostFiles::Entries(std::string_view directory) const {
+  std::vector<DirectoryEntry> entries;
+  DirectoryReader reader(ToHostPath(directory));
+  while (const dirent* entry = reader.Next()) {
+    if (entry->d_name[0] == '.') continue;
+    entries.push_back(
+        {DriveMap::ToSystemPath(entry->d_name), reader.IsDirectory(*entry), reader.IsLink(*entry)});
+  }
+  return entries;
+}
+
 bool HostFiles::FileExists(std::string_view path) const noexcept {
   try {
     const auto status = FindStatus(ToHostPath(path));
@@ -128,10 +139,17 @@ void HostFiles::CopyFile(std::string_view from, std::string_view to) {
   }
 }
 
-void HostFiles::Rename(std::string_view from, std::string_view to) {
-  // The new name is taken as given: it may differ from a present one in case only.
-  const FolderAndName target = SplitPath(HostPathAsGiven(to));
-  RenameFile(WithoutSlashBehind(ToHostPath(from)), SpellAsOnDisk(target.folder) + target.name);
+std::vector<std::string> HostFiles::RenameEntries(std::string_view directory,
+                                                  std::span<const NewName> names) {
+  std::vector<std::string> left;
+  const std::string folder = ToHostPath(directory) + '/';
+  for (const NewName& name : names) {
+    const auto inFolder = [&](const std::string& entry) {
+      return folder + drives_.ToHostPath("c:\\" + entry).value_or("/").substr(1);
+    };
+    if (!RenameFile(inFolder(name.from), inFolder(name.to))) left.push_back(name.from);
+  }
+  return left;
 }
 
 }  // namespace tagsmith

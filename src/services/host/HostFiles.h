@@ -24,11 +24,13 @@ class HostFiles : public FileSystem {
   std::string ResolveDirectory(std::string_view path, std::string_view base) const override;
   std::vector<std::string> DirectoryNames(std::string_view directory) const override;
   std::vector<std::string> FileNames(std::string_view directory) const override;
+  std::vector<DirectoryEntry> Entries(std::string_view directory) const override;
   bool FileExists(std::string_view path) const noexcept override;
   std::optional<std::string> ReadFile(std::string_view path, std::size_t limit) const override;
   void WriteFile(std::string_view path, std::string_view bytes, Durability durability) override;
   void CopyFile(std::string_view from, std::string_view to) override;
-  void Rename(std::string_view from, std::string_view to) override;
+  std::vector<std::string> RenameEntries(std::string_view directory,
+                                         std::span<const NewName> names) override;
 
   /// The host path of a system path that may be relative, in the spelling that is on the disk. What
   /// is not there yet keeps the name given. Throws kDeviceUnavailable, and kFileNotFound for an

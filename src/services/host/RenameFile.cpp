@@ -37,12 +37,14 @@ int Rename(const std::string& from, const std::string& to, unsigned int flags) {
 
 }  // namespace
 
-void RenameFile(const std::string& from, const std::string& to) {
+bool RenameFile(const std::string& from, const std::string& to) {
   const bool replaces = IsSameEntry(from, to);
   int error = Rename(from, to, replaces ? 0 : RENAME_NOREPLACE);
   // Some file systems cannot refuse by themselves.
   if (error == EINVAL && !replaces) error = FindEntry(to) ? EEXIST : Rename(from, to, 0);
+  if (error == EEXIST) return false;
   if (error != 0) throw FileError(error, FindEntry(from) ? to : from);
+  return true;
 }
 
 }  // namespace tagsmith

@@ -118,13 +118,13 @@ TEST_F(HostFilesTest, RenamesTheEntryItselfAndNeverOverAnother) {
   fs::create_symlink("taken", folder_ / "Link");
   fs::create_hard_link(folder_ / "taken", folder_ / "TAKEN");
   const auto rename = [this](const char* from, const char* to) {
-    return CodeThrownBy([&] { files_.Rename(folder_.System(from), folder_.System(to)); });
+    const std::vector<NewName> names = {{from, to}};
+    return CodeThrownBy([&] { files_.RenameEntries(folder_.System(""), names); });
   };
-  EXPECT_EQ(rename("Index.HTML", "index.html"), std::nullopt);
-  EXPECT_EQ(rename("Link", "link"), std::nullopt);
-  EXPECT_EQ(rename("index.html", "taken"), ErrorCode::kOther);
-  EXPECT_EQ(rename("TAKEN", "taken"), ErrorCode::kOther);
-  EXPECT_EQ(rename("index.html", "gone/x"), ErrorCode::kPathNotFound);
+  const std::vector<NewName> names = {
+      {"Index.HTML", "index.html"}, {"Link", "link"}, {"index.html", "taken"}, {"TAKEN", "taken"}};
+  EXPECT_EQ(files_.RenameEntries(folder_.System(""), names),
+            (std::vector<std::string>{"index.html", "TAKEN"}));
   EXPECT_EQ(rename("gone", "x"), ErrorCode::kFileNotFound);
   EXPECT_EQ(NamesIn(folder_.Path()), (Names{"TAKEN", "index.html", "link", "taken"}));
   EXPECT_EQ(GetFile(folder_ / "link"), "taken");

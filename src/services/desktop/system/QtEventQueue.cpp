@@ -1,6 +1,7 @@
 #include "services/desktop/system/QtEventQueue.h"
 
 #include <QCoreApplication>
+#include <cstdlib>
 
 namespace tagsmith {
 namespace {
@@ -26,5 +27,7 @@ void QtEventQueue::DoEvents() {
   const Entered entered(depth_);
   QCoreApplication::processEvents();
 }
+
+void QtEventQueue::EndProgram() { std::_Exit(EXIT_FAILURE); }
 
 }  // namespace tagsmith

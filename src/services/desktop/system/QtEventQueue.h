@@ -9,6 +9,7 @@ namespace tagsmith {
 class QtEventQueue final : public EventQueue {
  public:
   void DoEvents() override;
+  [[noreturn]] void EndProgram() override;
 
  private:
   int depth_ = 0;

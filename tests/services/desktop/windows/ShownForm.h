@@ -27,6 +27,7 @@ struct Screen {
                     desktop.platform.settings,
                     desktop.platform.pictures,
                     desktop.platform.calendar,
+                    desktop.platform.rtf,
                     "c:\\tagsmith",
                     ""};
 };

@@ -1,0 +1,1 @@
+#include "services/rtf/CodePages.h"
