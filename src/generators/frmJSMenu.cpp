@@ -1,6 +1,5 @@
 #include "generators/frmJSMenu.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "core/Application.h"
@@ -35,13 +34,6 @@ Here Is An Example:
 
 "Download Sites|Example Site|http://www.example.com|Another Site|http://www.example.org"
 )";
-
-// The page names no encoding; where that matters a mark in front does.
-std::string Marked(std::string page) {
-  const bool isAscii =
-      std::none_of(page.begin(), page.end(), [](char c) { return (c & 0x80) != 0; });
-  return isAscii ? page : page.insert(0, kByteOrderMark);
-}
 
 }  // namespace
 
@@ -177,7 +169,7 @@ void frmJSMenu::cmdCreate_Click() {
     return Refuse("You must supply a set of items to build the menu", "Sorry", rtfEdit);
   }
   try {
-    WriteText(path, Marked(MenuPage(rtfEdit.Text())), TextEncoding::kUtf8);
+    WriteText(path, WithByteOrderMark(MenuPage(rtfEdit.Text())), TextEncoding::kUtf8);
     CopyMenuSupportFiles(application_, path);
   } catch (const std::exception&) {  // Ends without a word; what was written stays.
     return;

@@ -1,5 +1,8 @@
 #include "services/Utf8.h"
 
+#include <cstdint>
+#include <cstring>
+
 namespace tagsmith {
 namespace {
 
@@ -36,6 +39,19 @@ std::size_t SequenceLength(unsigned char lead) {
   if (lead >= 0xE0 && lead <= 0xEF) return 3;
   if (lead >= 0xF0 && lead <= 0xF4) return 4;
   return 0;
+}
+
+// The first position from `position` on that holds no ASCII character, or the text's length.
+std::size_t SkipAscii(std::string_view text, std::size_t position) {
+  constexpr std::uint64_t kHighBits = 0x8080808080808080U;
+  std::uint64_t word = 0;
+  while (position + sizeof word <= text.size()) {
+    std::memcpy(&word, text.data() + position, sizeof word);
+    if ((word & kHighBits) != 0) break;
+    position += sizeof word;
+  }
+  while (position < text.size() && ByteAt(text, position) < 0x80) ++position;
+  return position;
 }
 
 }  // namespace
@@ -77,8 +93,13 @@ void AppendUtf8(std::string& text, char32_t codePoint) {
   }
 }
 
+std::string WithByteOrderMark(std::string page) {
+  if (SkipAscii(page, 0) < page.size()) page.insert(0, kByteOrderMark);
+  return page;
+}
+
 bool IsValidUtf8(std::string_view text) {
-  for (std::size_t i = 0; i < text.size();) {
+  for (std::size_t i = SkipAscii(text, 0); i < text.size(); i = SkipAscii(text, i)) {
     const std::size_t length = DecodeUtf8(text, i).length;
     if (length == 0) return false;
     i += length;

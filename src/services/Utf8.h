@@ -23,6 +23,10 @@ void AppendUtf8(std::string& text, char32_t codePoint);
 /// section 23.8).
 inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
+/// The page with a byte order mark in front if it holds more than ASCII, for a page (UTF-8) that
+/// names no encoding.
+std::string WithByteOrderMark(std::string page);
+
 bool IsValidUtf8(std::string_view text);
 
 /// The start of the character that byte `position` falls into; positions behind the text give its

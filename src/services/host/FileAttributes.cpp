@@ -31,6 +31,7 @@ std::optional<std::string> Fetch(Call call) {
   for (;;) {
     const ssize_t needed = call(nullptr, 0);
     if (needed < 0) return std::nullopt;
+    if (needed == 0) return std::string();
     answer.resize(static_cast<std::size_t>(needed));
     const ssize_t length = call(answer.data(), answer.size());
     if (length >= 0) {
@@ -84,10 +85,7 @@ void CopyAttributes(const std::string& from, const FileStatus& status, const Fil
     throw SystemError(EPERM);
   }
   CopyExtendedAttributes(from, to.Number());
-  if (StatusOf(to).st_mode != status.st_mode &&
-      ::fchmod(to.Number(), status.st_mode & kPermissionBits) != 0) {
-    throw SystemError(EPERM);
-  }
+  if (::fchmod(to.Number(), status.st_mode & kPermissionBits) != 0) throw SystemError(EPERM);
 }
 
 }  // namespace tagsmith

@@ -30,12 +30,14 @@ std::optional<std::string> ReadAll(const FileDescriptor& file, std::size_t claim
   std::size_t room = claimedSize + 1;
   while (filled < limit) {
     if (filled == bytes.size()) bytes.resize(std::min(std::max(room, 2 * filled), limit));
-    const std::size_t count = ReadSome(file, bytes.data() + filled, bytes.size() - filled);
-    if (count == 0) {
+    const std::size_t asked = bytes.size() - filled;
+    const std::size_t count = ReadSome(file, bytes.data() + filled, asked);
+    filled += count;
+    // Where all that was claimed has come, a short answer is the end.
+    if (count == 0 || (filled == claimedSize && count < asked)) {
       bytes.resize(filled);
       return bytes;
     }
-    filled += count;
   }
   return std::nullopt;
 }

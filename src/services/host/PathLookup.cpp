@@ -41,6 +41,16 @@ std::string FindWithoutCase(const std::string& folder, std::string_view name) {
   return found.empty() ? std::string(name) : found;
 }
 
+// Whether the path is full and made of `components` alone, without a way up.
+bool IsPlain(std::string_view path, const std::vector<std::string_view>& components) {
+  std::size_t length = path.ends_with('/') ? 1 : 0;
+  for (const std::string_view component : components) {
+    if (component == "..") return false;
+    length += 1 + component.size();
+  }
+  return path.starts_with('/') && length == path.size();
+}
+
 }  // namespace
 
 std::vector<std::string_view> PathComponents(std::string_view hostPath) {
@@ -60,8 +70,13 @@ FolderAndName SplitPath(const std::string& hostPath) {
 }
 
 std::string SpellAsOnDisk(std::string_view hostPath) {
-  std::string found;
-  for (const std::string_view component : PathComponents(hostPath)) {
+  const std::vector<std::string_view> components = PathComponents(hostPath);
+  // One look is enough where everything has the name given: that is nearly always.
+  std::string found(hostPath);
+  if (IsPlain(hostPath, components) && FindEntry(found)) return found;
+
+  found.clear();
+  for (const std::string_view component : components) {
     if (component == "..") {
       found = FolderAbove(found);
       continue;

@@ -1,6 +1,7 @@
 #include "services/host/SafeWriter.h"
 
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -20,6 +21,11 @@ namespace tagsmith {
 namespace {
 
 namespace fs = std::filesystem;
+
+bool HasFileSizeLimit() {
+  rlimit limit{};
+  return ::getrlimit(RLIMIT_FSIZE, &limit) != 0 || limit.rlim_cur != RLIM_INFINITY;
+}
 
 // While it lives, a write past the process's file size limit fails with EFBIG and no more: the
 // signal that comes with it would end the program.
@@ -111,6 +117,13 @@ void Overwrite(const std::string& path, std::string_view bytes, Durability durab
   file.Finish(durability);
 }
 
+void RequireWritable(const std::string& path, const FileStatus& status) {
+  const bool isOwners = (status.st_mode & S_IWUSR) != 0 && status.st_uid == ::geteuid();
+  if (!isOwners && ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0) {
+    throw FileError(errno, path);
+  }
+}
+
 bool ReplaceIfPossible(const std::string& path, const FileStatus& old, std::string_view bytes,
                        Durability durability) {
   if (old.st_nlink > 1) return false;
@@ -126,13 +139,16 @@ bool ReplaceIfPossible(const std::string& path, const FileStatus& old, std::stri
 }  // namespace
 
 void WriteSafely(const std::string& hostPath, std::string_view bytes, Durability durability) {
-  const FileSizeSignalBlock block;
-  const std::string path = FollowLinks(hostPath);
-  const std::optional<FileStatus> old = FindStatus(path);
+  std::optional<FileSizeSignalBlock> block;
+  if (HasFileSizeLimit()) block.emplace();
+  const std::optional<FileStatus> entry = FindEntry(hostPath);
+  const bool isPlain = entry && !S_ISLNK(entry->st_mode);
+  const std::string path = isPlain ? hostPath : FollowLinks(hostPath);
+  const std::optional<FileStatus> old = isPlain ? entry : FindStatus(path);
   if (!old) return Replace(path, old, bytes, durability);
 
   RequireRegularFile(*old);
-  if (::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0) throw FileError(errno, path);
+  RequireWritable(path, *old);
   if (!ReplaceIfPossible(path, *old, bytes, durability)) Overwrite(path, bytes, durability);
 }
 

@@ -26,6 +26,10 @@ std::optional<char> StoodForBy(char32_t character, std::span<const StandIn> stan
   return found == standIns.end() ? std::nullopt : std::optional(found->byte);
 }
 
+bool IsAscii(std::string_view text) {
+  return std::ranges::none_of(text, [](char byte) { return (byte & 0x80) != 0; });
+}
+
 // Whether the bytes of `character` cannot stand in a text as they are.
 bool IsSpeltByteByByte(const DecodedChar& character, std::span<const StandIn> standIns) {
   return character.length == 0 || character.codePoint == kByteOrderMark ||
@@ -54,6 +58,7 @@ std::string ToStandIns(std::string_view bytes, std::span<const StandIn> standIns
 }
 
 std::string FromStandIns(std::string_view text, std::span<const StandIn> standIns) {
+  if (IsAscii(text)) return std::string(text);
   std::string bytes;
   bytes.reserve(text.size());
   for (std::size_t i = 0; i < text.size();) {
