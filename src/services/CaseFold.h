@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tagsmith {
 
@@ -15,6 +16,9 @@ std::string FoldCase(std::string_view text);
 /// Orders two texts (UTF-8) without regard to case, by code point; texts that are equal but for
 /// case are ordered by their own bytes, so that the order is total.
 bool LessWithoutCase(std::string_view left, std::string_view right);
+
+/// Sorts by `LessWithoutCase`, in which equal texts are the same texts. Folds each text once.
+void SortWithoutCase(std::vector<std::string>& texts);
 
 bool EqualWithoutCase(std::string_view left, std::string_view right);
 

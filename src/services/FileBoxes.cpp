@@ -133,7 +133,7 @@ DirListBox::DirListBox(Form& form, std::string name)
 
 void DirListBox::Show(std::string path) {
   std::vector<std::string> names = FilesOf(*this).DirectoryNames(path);
-  std::sort(names.begin(), names.end(), LessWithoutCase);
+  SortWithoutCase(names);
   path_ = std::move(path);
   names_ = std::move(names);
   listIndex_ = -1;
@@ -215,7 +215,7 @@ void FileListBox::ReadNames() {
   if (pattern_ != "*.*") {
     std::erase_if(names, [this](const auto& name) { return !MatchesPatterns(name, pattern_); });
   }
-  std::sort(names.begin(), names.end(), LessWithoutCase);
+  SortWithoutCase(names);
   names_ = std::move(names);
   selected_.assign(names_.size(), false);
   listIndex_ = -1;
