@@ -2,12 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "services/CaseFold.h"
 #include "services/Lines.h"
+#include "services/LowerCase.h"
 #include "services/TextEncoding.h"
 #include "services/Utf8.h"
 
@@ -98,6 +101,22 @@ TEST(CaseFold, FollowsTheCharacterDatabase) {
   EXPECT_TRUE(LessWithoutCase("A", "a"));
   EXPECT_FALSE(LessWithoutCase("a", "A"));
   EXPECT_TRUE(LessWithoutCase("ab", "ABC"));
+
+  std::vector<std::string> texts = {"\xFF",  "\xE9",     "Z", "\xC3\xA4", "b",
+                                    "a\x80", "\xC3\x84", "a", "A"};
+  std::vector<std::string> sorted = texts;
+  std::sort(sorted.begin(), sorted.end(), LessWithoutCase);
+  SortWithoutCase(texts);
+  EXPECT_EQ(texts, sorted);
+}
+
+TEST(LowerCase, FollowsTheCharacterDatabaseAndFoldsNothing) {
+  EXPECT_EQ(LowerCase("AZ[@`{az09"), "az[@`{az09");
+  EXPECT_EQ(LowerCase("ÄÉΣЖ\u2126\u212A\u1E9E\u0130"), "äéσж\u03C9kß\u0069");
+  EXPECT_EQ(LowerCase("\u13A0\u13EF\u13F5\U00010400"), "\uAB70\uABBF\u13FD\U00010428");
+  const std::string small = "ςſµßı\u0345\u03D0\u03D6\u13F8\u1C80\u1C88\u1E9B\u1FBE\uAB70\uABBF";
+  EXPECT_EQ(LowerCase(small), small);
+  EXPECT_EQ(LowerCase("A\xFF\xC3"), "a\xFF\xC3");
 }
 
 }  // namespace

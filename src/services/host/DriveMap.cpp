@@ -115,4 +115,11 @@ std::optional<std::string> DriveMap::ToHostPath(std::string_view systemPath) con
   return volume == nullptr ? path : volume->mountPoint + path;
 }
 
+std::optional<std::string> DriveMap::ToHostName(std::string_view name) {
+  const auto isForbidden = [](char c) { return IsSeparator(c) || c == '\0'; };
+  const bool isName =
+      !name.empty() && name != "." && name != ".." && std::ranges::none_of(name, isForbidden);
+  return isName ? std::optional(FromStandIns(name, kNameStandIns)) : std::nullopt;
+}
+
 }  // namespace tagsmith

@@ -39,6 +39,10 @@ class DriveMap {
   /// no drive letter or the drive is not there.
   std::optional<std::string> ToHostPath(std::string_view systemPath) const;
 
+  /// The host's own name of an entry that the system calls `name`. Nothing for what is no name of
+  /// an entry: an empty text, a path, "." and "..".
+  static std::optional<std::string> ToHostName(std::string_view name);
+
  private:
   struct Volume {
     char letter;

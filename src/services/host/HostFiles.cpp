@@ -1,5 +1,6 @@
 #include "services/host/HostFiles.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -10,6 +11,7 @@
 #include <utility>
 
 #include "services/host/DirectoryReader.h"
+#include "services/host/FileDescriptor.h"
 #include "services/host/FileReader.h"
 #include "services/host/FileStatus.h"
 #include "services/host/HostError.h"
@@ -39,6 +41,12 @@ void RequireDirectory(const std::string& hostPath) {
     if (error.Code() == ErrorCode::kDeviceUnavailable) throw;
     throw Error(ErrorCode::kPathNotFound, error.what());
   }
+}
+
+std::string ToHostName(std::string_view name) {
+  std::optional<std::string> hostName = DriveMap::ToHostName(name);
+  if (!hostName) throw SystemError(EINVAL);
+  return *std::move(hostName);
 }
 
 std::string WithoutSlashBehind(std::string hostPath) {
@@ -141,13 +149,14 @@ void HostFiles::CopyFile(std::string_view from, std::string_view to) {
 
 std::vector<std::string> HostFiles::RenameEntries(std::string_view directory,
                                                   std::span<const NewName> names) {
+  const std::string path = ToHostPath(directory);
+  const FileDescriptor folder = OpenFile(path, O_PATH | O_DIRECTORY);
   std::vector<std::string> left;
-  const std::string folder = ToHostPath(directory) + '/';
   for (const NewName& name : names) {
-    const auto inFolder = [&](const std::string& entry) {
-      return folder + drives_.ToHostPath("c:\\" + entry).value_or("/").substr(1);
-    };
-    if (!RenameFile(inFolder(name.from), inFolder(name.to))) left.push_back(name.from);
+    if (name.from == name.to) continue;
+    if (!RenameInFolder(folder, path, ToHostName(name.from), ToHostName(name.to))) {
+      left.push_back(name.from);
+    }
   }
   return left;
 }

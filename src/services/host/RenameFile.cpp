@@ -47,4 +47,12 @@ bool RenameFile(const std::string& from, const std::string& to) {
   return true;
 }
 
+bool RenameInFolder(const FileDescriptor& folder, const std::string& folderPath,
+                    const std::string& from, const std::string& to) {
+  const int number = folder.Number();
+  if (::renameat2(number, from.c_str(), number, to.c_str(), RENAME_NOREPLACE) == 0) return true;
+  // The rare case takes a closer look, by the whole paths.
+  return RenameFile(folderPath + '/' + from, folderPath + '/' + to);
+}
+
 }  // namespace tagsmith

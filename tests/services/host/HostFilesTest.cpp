@@ -126,6 +126,9 @@ TEST_F(HostFilesTest, RenamesTheEntryItselfAndNeverOverAnother) {
   EXPECT_EQ(files_.RenameEntries(folder_.System(""), names),
             (std::vector<std::string>{"index.html", "TAKEN"}));
   EXPECT_EQ(rename("gone", "x"), ErrorCode::kFileNotFound);
+  for (const char* path : {"", ".", "..", "../x", "..\\x", "a/"}) {
+    EXPECT_TRUE(rename("taken", path) && rename(path, "x")) << path;
+  }
   EXPECT_EQ(NamesIn(folder_.Path()), (Names{"TAKEN", "index.html", "link", "taken"}));
   EXPECT_EQ(GetFile(folder_ / "link"), "taken");
 }
