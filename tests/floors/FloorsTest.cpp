@@ -68,7 +68,7 @@ const std::map<std::string, std::set<std::string>> kMaySee = {
     {"integration", {"core", "services"}},
     {"core", {"services"}},
     {"services", {}},
-    {"services/rtf", {}},
+    {"services/rtf", {"services"}},
     {"services/host", {"services", "services/rtf"}},
     {"services/desktop", {"services"}},
 };

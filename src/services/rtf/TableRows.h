@@ -1,0 +1,66 @@
+#pragma once
+
+#include <bitset>
+#include <cstddef>
+
+#include "services/rtf/Document.h"
+
+namespace tagsmith::rtf {
+
+/// How many tables may stand in each other; what is deeper counts as the deepest.
+constexpr int kDeepestTable = 20;
+
+enum class CellSide { kTop, kRight, kBottom, kLeft };
+
+/// A row's definition, from \trowd on, as its words bring it.
+class RowBuilder {
+ public:
+  RowFormat& Format() { return format_; }
+  /// The cell that the next `EndCellFormat` ends.
+  CellFormat& Cell() { return cell_; }
+  void EndCellFormat(int rightEdge);
+
+  /// Makes a side of the cell the one that `Border` speaks of.
+  void SelectBorder(CellSide side);
+  /// The border that words on borders are about; null if it is none of a cell.
+  Border* SelectedBorder() { return border_ == kAbsent ? nullptr : &cell_.borders[Index()]; }
+  void SelectNoBorder() { border_ = kAbsent; }
+
+ private:
+  std::size_t Index() const { return static_cast<std::size_t>(border_); }
+
+  RowFormat format_;
+  CellFormat cell_;
+  int border_ = kAbsent;
+};
+
+/// Ends cells and rows at the sink, and those that a damaged file leaves open. Depths are as the
+/// paragraphs of the file tell them: 1 for a table that stands in no other of this text.
+class TableTracker {
+ public:
+  /// The text that is tracked stands in `outerDepth` tables.
+  TableTracker(DocumentSink& sink, int outerDepth) : sink_(&sink), outerDepth_(outerDepth) {}
+
+  int DepthAtSink(int depth) const { return outerDepth_ + depth; }
+  /// A depth that the file names, brought to what is allowed.
+  int Limited(int depth) const;
+
+  /// Tells that something comes in the tables down to `depth`; deeper ones end.
+  void Enter(int depth);
+  void EndCell(int depth);
+  void EndRow(int depth);
+
+  RowBuilder& Row(bool isNested) { return isNested ? nestedRow_ : row_; }
+
+ private:
+  void Close(int depth);
+
+  DocumentSink* sink_;
+  int outerDepth_;
+  int openDepth_ = 0;
+  std::bitset<kDeepestTable + 1> openCells_;
+  RowBuilder row_;
+  RowBuilder nestedRow_;
+};
+
+}  // namespace tagsmith::rtf
