@@ -1,7 +1,6 @@
 #include "services/desktop/windows/FileListView.h"
 
 #include <QDrag>
-#include <QItemSelection>
 #include <QMimeData>
 
 #include "services/desktop/editpane/QtTextPane.h"
@@ -21,6 +20,8 @@ FileListView::FileListView(FileListBox& control, ViewHost& host, QWidget& parent
                            .text = [&control](int row) { return ToQString(control.List(row)); }},
                           /*opensOnEnter=*/true, parent)) {
   if (control.MultiSelect()) list_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  showLater_.setSingleShot(true);
+  connect(&showLater_, &QTimer::timeout, this, [this] { ShowSelection(); });
   ShowSelection();
   list_->onGesture = [this](const ListGesture& gesture) { Take(gesture); };
   Adopt(list_);
@@ -34,16 +35,33 @@ FileListView::~FileListView() {
 
 void FileListView::Update(Property property) {
   if (property == Property::kItems) list_->Entries().Reset();
-  ShowSelection();
+  if (property == Property::kSelection && model_.MultiSelect()) {
+    if (!showLater_.isActive()) showLater_.start();
+  } else {
+    ShowSelection();
+  }
+}
+
+// Whatever reaches the list finds the selection that the model has.
+bool FileListView::eventFilter(QObject* watched, QEvent* event) {
+  if (showLater_.isActive()) ShowSelection();
+  return ViewOf::eventFilter(watched, event);
 }
 
 void FileListView::ShowSelection() {
+  showLater_.stop();
   const int current = model_.ListIndex();
   if (list_->CurrentRow() == current && ModelHas(SelectedRows())) return;
   if (!model_.MultiSelect()) {
     list_->ShowRow(current);
     return;
   }
+  QItemSelectionModel& shown = *list_->selectionModel();
+  shown.setCurrentIndex(list_->Entries().index(current, 0), QItemSelectionModel::NoUpdate);
+  shown.select(ModelSelection(), QItemSelectionModel::ClearAndSelect);
+}
+
+QItemSelection FileListView::ModelSelection() const {
   QItemSelection selection;
   const EntryModel& entries = list_->Entries();
   for (int row = 0; row < model_.ListCount(); ++row) {
@@ -52,9 +70,7 @@ void FileListView::ShowSelection() {
     while (model_.Selected(row + 1)) ++row;
     selection.select(entries.index(first, 0), entries.index(row, 0));
   }
-  QItemSelectionModel& shown = *list_->selectionModel();
-  shown.setCurrentIndex(entries.index(current, 0), QItemSelectionModel::NoUpdate);
-  shown.select(selection, QItemSelectionModel::ClearAndSelect);
+  return selection;
 }
 
 std::vector<bool> FileListView::SelectedRows() const {

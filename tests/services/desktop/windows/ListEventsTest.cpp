@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QElapsedTimer>
 #include <QListView>
 
 #include "services/FileBoxes.h"
@@ -105,6 +106,65 @@ TEST_F(ListEvents, AnAllowedDragLeavesAClickADoubleClickAndTheSelectionAlone) {
   QTest::mouseRelease(viewport, Qt::LeftButton, {}, start + QPoint(2, 2));
   EXPECT_EQ(form.TakeLog(), (Strings{"file b.gif"})) << "not far enough for a drag";
   EXPECT_FALSE(form.MyFileList.IsDragging());
+}
+
+class SeveralProbe : public ProbeForm {
+ public:
+  explicit SeveralProbe(Screen& screen) : ProbeForm(screen) {
+    MyFileList.Move({0, 0, 2500, 3000});
+    MyFileList.onClick = [this] { log.emplace_back("click"); };
+  }
+
+  void SelectAll(bool selected) {
+    for (int i = 0; i < MyFileList.ListCount(); ++i) MyFileList.SetSelected(i, selected);
+  }
+  int SelectedCount() const {
+    int count = 0;
+    for (int i = 0; i < MyFileList.ListCount(); ++i) count += MyFileList.Selected(i) ? 1 : 0;
+    return count;
+  }
+
+  FileListBox MyFileList{*this, "MyFileList", /*multiSelect=*/true};
+};
+
+TEST(ListOfSeveral, ShowsAFullDirectorySelectedAtOnceToTheUsersNextGesture) {
+  constexpr int kCount = 20000;
+  constexpr int kPatience = 2000;  // Milliseconds; the square of the names takes far longer.
+  Screen screen;
+  for (int i = 0; i < kCount; ++i) {
+    screen.desktop.files.AddFile("c:\\full\\page" + std::to_string(i), "");
+  }
+  SeveralProbe form(screen);
+  form.MyFileList.SetPath("c:\\full");
+  form.ShowAndWait();
+  auto& list = *form.Widget<QListView>(form.MyFileList);
+  const auto click = [&list](int row, Qt::KeyboardModifiers modifiers) {
+    const QPoint place = list.visualRect(list.model()->index(row, 0)).center();
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, modifiers, place);
+  };
+  const auto shown = [&list] {
+    int count = 0;
+    for (const auto& range : list.selectionModel()->selection()) count += range.height();
+    return count;
+  };
+  QElapsedTimer clock;
+  clock.start();
+  form.SelectAll(true);
+  click(2, Qt::ControlModifier);
+  EXPECT_EQ(form.SelectedCount(), kCount - 1) << "one taken away from all";
+  EXPECT_EQ(shown(), kCount - 1);
+  form.SelectAll(false);
+  click(1, Qt::ControlModifier);
+  EXPECT_EQ(form.SelectedCount(), 1) << "one added to none";
+  EXPECT_TRUE(form.MyFileList.Selected(1));
+  click(3, Qt::ShiftModifier);
+  QTest::keyClick(&list, Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_EQ(form.SelectedCount(), 4);
+  form.TakeLog();
+  for (int i = 0; i < kCount; i += 2) form.MyFileList.SetSelected(i, true);
+  EXPECT_EQ(form.TakeLog(), Strings());
+  EXPECT_EQ(shown(), kCount / 2 + 2);
+  EXPECT_LT(clock.elapsed(), kPatience);
 }
 
 }  // namespace
