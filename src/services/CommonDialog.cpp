@@ -14,7 +14,8 @@ namespace {
 Dialogs& DialogsOf(const Form& form) { return form.GetPlatform().dialogs; }
 
 FileDialogRequest RequestOf(const CommonDialog& dialog) {
-  return {dialog.dialogTitle, dialog.filter, dialog.initDir, dialog.fileName, dialog.defaultExt};
+  return {dialog.dialogTitle, dialog.filter,     dialog.initDir,
+          dialog.fileName,    dialog.defaultExt, dialog.mayBeNew};
 }
 
 }  // namespace

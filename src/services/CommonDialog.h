@@ -25,6 +25,7 @@ class CommonDialog {
   std::string initDir;
   std::string dialogTitle;
   std::string defaultExt;
+  bool mayBeNew = false;  ///< Whether Open takes the name of a file that is not there yet.
   int flags = 0;
   bool cancelError = false;
   Colour color = kBlack;

@@ -29,7 +29,8 @@ struct FileDialogRequest {
   std::string filter;  ///< Caption and pattern pairs, all joined by bars; "*.*" is all files.
   std::string initialDirectory;  ///< Empty for the desktop's own.
   std::string fileName;          ///< Empty for none.
-  std::string defaultExtension;  ///< Appended to a saved name that has no dot; empty for none.
+  std::string defaultExtension;  ///< Appended to a new name that has no dot; empty for none.
+  bool mayBeNew = false;         ///< Whether a file that is not there yet may be opened.
 };
 
 /// The questions that the system asks in windows of the desktop's own. Each call blocks until the

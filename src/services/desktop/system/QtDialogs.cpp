@@ -122,8 +122,10 @@ void MakeRoomForTitle(QMessageBox& box) {
   if (prompt == nullptr) return;
   const QFontMetrics metrics = box.fontMetrics();
   const int icon = box.iconPixmap().isNull() ? 0 : box.iconPixmap().width();
-  prompt->setMinimumWidth(metrics.horizontalAdvance(box.windowTitle()) +
-                          kLettersOfButtons * metrics.averageCharWidth() - icon);
+  const int width = metrics.horizontalAdvance(box.windowTitle()) +
+                    kLettersOfButtons * metrics.averageCharWidth() - icon;
+  // A longer text would be cut down to a width that is set here.
+  if (prompt->sizeHint().width() < width) prompt->setMinimumWidth(width);
 }
 
 void SetPrompt(QMessageBox& box, std::string_view prompt) {
@@ -273,9 +275,10 @@ std::optional<std::string> QtDialogs::AskForFile(Form& owner, const FileDialogRe
   dialog->setOption(QFileDialog::DontConfirmOverwrite);
   dialog->setOption(QFileDialog::HideNameFilterDetails);
   dialog->setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-  dialog->setFileMode(saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  dialog->setFileMode(saving || request.mayBeNew ? QFileDialog::AnyFile
+                                                 : QFileDialog::ExistingFile);
   dialog->setWindowTitle(FileTitleOf(request, saving));
-  if (saving) dialog->setDefaultSuffix(ToQString(request.defaultExtension));
+  if (saving || request.mayBeNew) dialog->setDefaultSuffix(ToQString(request.defaultExtension));
   dialog->setNameFilters(NameFilters(request.filter));
   SetStart(*dialog, HostPath(request.initialDirectory), HostPath(request.fileName));
   if (dialog.Run() != QDialog::Accepted) return std::nullopt;
