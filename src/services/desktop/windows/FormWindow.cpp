@@ -120,7 +120,7 @@ void FormWindow::PutOnScreen(const QWidget* above) {
     HasLayout() ? FitToArrangement() : FitToModel();
     window_->layout()->activate();
     PlaceViews();
-    Centre(*window_, above);
+    form_.IsOnTop() ? PutIntoCorner(*window_) : Centre(*window_, above);
     shown_ = true;
   }
   if (!window_->isVisible()) GiveInitialFocus();

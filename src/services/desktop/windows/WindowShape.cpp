@@ -49,6 +49,12 @@ void Centre(QWidget& window, const QWidget* above) {
   window.move(place.topLeft());
 }
 
+void PutIntoCorner(QWidget& window) {
+  QRect place(QPoint(), window.size());
+  place.moveTopRight(window.screen()->availableGeometry().topRight());
+  window.move(place.topLeft());
+}
+
 void SetStaysOnTop(QWidget& window, bool onTop) {
   Qt::WindowFlags flags = window.windowFlags();
   flags.setFlag(Qt::WindowStaysOnTopHint, onTop);

@@ -21,6 +21,10 @@ QSize RoomFor(const QWidget& window);
 /// that is null or hidden; no edge leaves the screen.
 void Centre(QWidget& window, const QWidget* above);
 
+/// Moves a window that is not on the screen yet to the upper right corner of its screen, where one
+/// that stays above the others covers the least of a text.
+void PutIntoCorner(QWidget& window);
+
 /// Keeps the window above all others, or ends that; one on the screen stays where it is and keeps
 /// the keyboard.
 void SetStaysOnTop(QWidget& window, bool onTop);
