@@ -19,6 +19,7 @@ struct FileLists {
 
 /// Chains the lists: a drive opens in the directory list, a directory shows its files. A drive that
 /// cannot be opened is told to the user, and the first drive opens instead. `onDirectory` is called
+/// behind each change of the directory; it may be empty.
 void ChainFileLists(Application& application, const FileLists& lists,
                     std::function<void()> onDirectory = {});
 

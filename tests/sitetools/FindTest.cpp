@@ -1,0 +1,333 @@
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstddef>
+#include <random>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "services/FoldedChar.h"
+#include "sitetools/Install.h"
+#include "sitetools/ReplaceText.h"
+#include "sitetools/frmFind.h"
+#include "support/MarkedText.h"
+#include "support/RunningProgram.h"
+#include "toolbars/Install.h"
+
+namespace tagsmith::sitetools {
+namespace {
+
+// --- The replacing, beside the same done step by step ---
+
+struct Character {
+  std::string bytes;
+  char32_t folded = 0;
+};
+using Characters = std::vector<Character>;
+
+Characters Split(std::string_view text) {
+  Characters characters;
+  for (std::size_t i = 0; i < text.size();) {
+    const FoldedChar next = ReadFolded(text, i);
+    characters.push_back({std::string(text.substr(i, next.length)), next.value});
+    i += next.length;
+  }
+  return characters;
+}
+
+std::string Join(const Characters& characters) {
+  std::string text;
+  for (const Character& character : characters) text += character.bytes;
+  return text;
+}
+
+// Positions count characters from 1; 0 is nowhere.
+std::size_t SearchFrom(std::size_t position, const Characters& text, const Characters& find) {
+  for (std::size_t at = position; at + find.size() <= text.size() + 1; ++at) {
+    std::size_t i = 0;
+    while (i < find.size() && text[at - 1 + i].folded == find[i].folded) ++i;
+    if (i == find.size()) return at;
+  }
+  return 0;
+}
+
+void Put(Characters& text, std::size_t position, std::size_t length, const Characters& in) {
+  const auto start = text.begin() + static_cast<std::ptrdiff_t>(position - 1);
+  const auto place = text.erase(start, start + static_cast<std::ptrdiff_t>(length));
+  text.insert(place, in.begin(), in.end());
+}
+
+struct StepByStep {
+  std::string text;
+  std::size_t count = 0;
+  bool endedBySearch = false;
+  std::size_t foundPos = 0;  // In bytes.
+};
+
+StepByStep ReplaceAllStepByStep(std::string_view before, std::string_view find,
+                                std::string_view replacement) {
+  StepByStep result;
+  Characters text = Split(before);
+  const Characters pattern = Split(find);
+  const Characters in = Split(replacement);
+  for (std::size_t resume = 1; resume < text.size();) {
+    const std::size_t found = SearchFrom(resume, text, pattern);
+    result.foundPos = 0;
+    if (found == 0) {
+      result.endedBySearch = true;
+      break;
+    }
+    for (std::size_t i = 0; i + 1 < found; ++i) result.foundPos += text[i].bytes.size();
+    ++result.foundPos;
+    ++result.count;
+    Put(text, found, pattern.size(), in);
+    resume = found + in.size();
+  }
+  result.text = Join(text);
+  return result;
+}
+
+std::string ReplaceInFileStepByStep(std::string_view before, std::string_view find,
+                                    std::string_view replacement) {
+  Characters text = Split(before);
+  const Characters pattern = Split(find);
+  const Characters in = Split(replacement);
+  const bool feedsItself = SearchFrom(2, in, pattern) != 0;
+  for (std::size_t resume = 1; resume != text.size();) {
+    const std::size_t found = SearchFrom(resume, text, pattern);
+    if (found == 0) break;
+    Put(text, found, pattern.size(), in);
+    resume = found + (feedsItself ? in.size() : 1);
+  }
+  return Join(text);
+}
+
+bool StandsInCrLf(std::string_view text, std::size_t position) {
+  return position > 0 && text.substr(position - 1, 2) == "\r\n";
+}
+
+TEST(ReplaceText, DoesWhatTheSameDoneStepByStepDoes) {
+  const std::vector<std::string> pieces = {"a",  "b",  "A",    "k",        "\xE2\x84\xAA", "K",
+                                           "\r", "\n", "\r\n", "\xC3\xA4", "\xA4",         "\xC3"};
+  std::mt19937 random(5);
+  const auto make = [&](std::size_t least, std::size_t most, std::size_t kinds) {
+    std::string text;
+    for (auto count = least + random() % (most - least + 1); count > 0; --count) {
+      text += pieces[random() % kinds];
+    }
+    return text;
+  };
+  for (int round = 0; round < 40'000; ++round) {
+    const std::size_t kinds = 1 + random() % pieces.size();
+    const std::string text = make(0, 14, kinds);
+    const std::string find = make(1, 4, kinds);
+    const std::string replacement = make(0, 5, kinds);
+    SCOPED_TRACE(testing::PrintToString(text) + " " + testing::PrintToString(find) + " " +
+                 testing::PrintToString(replacement));
+    const TextSearch search(find);
+
+    const StepByStep expected = ReplaceAllStepByStep(text, find, replacement);
+    const ReplacedRange range = ReplaceAll(text, search, replacement);
+    ASSERT_EQ(text.substr(0, range.start) + range.text + text.substr(range.end), expected.text);
+    ASSERT_EQ(range.count, expected.count);
+    ASSERT_EQ(range.endedBySearch, expected.endedBySearch);
+    ASSERT_EQ(static_cast<std::size_t>(range.foundPos), expected.foundPos);
+    ASSERT_FALSE(StandsInCrLf(text, range.start) || StandsInCrLf(text, range.end));
+
+    ASSERT_EQ(ReplaceInFile(text, search, replacement),
+              ReplaceInFileStepByStep(text, find, replacement));
+  }
+}
+
+TEST(ReplaceText, InAFileAMatchThatAReplacementFormsIsReplacedToo) {
+  const auto replaced = [](std::string_view text, std::string_view find, std::string_view by) {
+    return ReplaceInFile(text, TextSearch(find), by);
+  };
+  EXPECT_EQ(replaced("aaa", "AA", "ba"), "bba");
+  EXPECT_EQ(replaced("aXaa", "a", "ba"), "baXbaa");  // Feeds itself; ends at the last character.
+  EXPECT_EQ(replaced("a", "a", "b"), "a");
+  EXPECT_EQ(replaced("abc", "", "x"), "abc");
+}
+
+// Each takes milliseconds; work that grows with the square of the text takes minutes.
+TEST(ReplaceText, IsAsQuickWithEveryMatchAndEveryOverlap) {
+  constexpr std::size_t kSize = 1'000'000;
+  const std::string as(kSize, 'a');
+  const std::string half(kSize / 2, 'a');
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_EQ(ReplaceAll(as, TextSearch("a"), "aa").count, kSize - 1);
+  EXPECT_EQ(ReplaceInFile(as, TextSearch("aa"), "ba"), std::string(kSize - 1, 'b') + "a");
+  EXPECT_EQ(ReplaceInFile(as, TextSearch(half), "b" + half.substr(1)),
+            std::string(kSize - half.size() + 1, 'b') + half.substr(1));
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
+}
+
+// --- The form ---
+
+class FindForm : public testing::Test {
+ protected:
+  FindForm() {
+    toolbars::Install(user.app);
+    Install(user.app);
+    user.Begin();
+    user.form.mnuFind.Click();
+  }
+
+  frmFind& Form() { return user.app.Instance<frmFind>(); }
+  void Ask(std::string_view text, std::string_view find, std::string_view replacement = {}) {
+    const MarkedText put = MarkedText::Read(text);
+    user.form.txtEdit.SetText(put.text);
+    user.Pane().Select(put.selStart, put.selLength);
+    user.form.MarkUnchanged();
+    Form().txtFind.SetText(find);
+    Form().txtReplace.SetText(replacement);
+    user.app.FoundPos = 0;
+  }
+  void Find() { Form().cmdCommand(0).Click(); }
+  void FindNext() { Form().cmdCommand(1).Click(); }
+  void Replace() { Form().cmdCommand(2).Click(); }
+  void ReplaceEach() { Form().cmdCommand(3).Click(); }
+  void ExpectNotFound(std::string_view find) {
+    user.desktop.ExpectMsgBox(std::string(find) + " Was Not Found", kInformationIcon, "Sorry...");
+  }
+  void ExpectReplacements(std::string_view count) {
+    user.desktop.ExpectMsgBox(std::string(count) + " Replacements Were Made", kInformationIcon,
+                              "Replace All Completed...");
+  }
+  std::string Shown() {
+    return MarkedText{user.form.txtEdit.Text(), user.form.txtEdit.SelStart(),
+                      user.form.txtEdit.SelLength()}
+        .Write();
+  }
+
+  RunningProgram user;
+};
+
+TEST_F(FindForm, FindStaysAtTheFirstMatchAndNextGoesRound) {
+  Ask("«»ä\xE2\x84\xAA\r\nK k", "k");
+  Find();
+  EXPECT_EQ(Shown(), "ä«\xE2\x84\xAA»\r\nK k");
+  EXPECT_TRUE(Form().cmdCommand(1).HasFocus());
+  EXPECT_EQ(user.desktop.platform.forms.Active(), &Form());
+  Form().txtFind.Type("\r");
+  EXPECT_EQ(user.app.FoundPos, 3);
+
+  FindNext();
+  EXPECT_EQ(Shown(), "ä\xE2\x84\xAA\r\n«K» k");
+  EXPECT_EQ(user.desktop.platform.forms.Active(), &user.form);
+  EXPECT_TRUE(user.form.txtEdit.HasFocus());
+  FindNext();
+  EXPECT_EQ(Shown(), "ä\xE2\x84\xAA\r\nK «k»");
+  FindNext();
+  EXPECT_EQ(Shown(), "ä«\xE2\x84\xAA»\r\nK k");
+  EXPECT_FALSE(user.form.DocumentChanged());
+}
+
+TEST_F(FindForm, WhatIsNotThereIsReportedAndMovesNothing) {
+  for (const char* find : {"x", "abcd"}) {
+    Ask("a«b»c", find, "y");
+    for (int i = 0; i < 4; ++i) {
+      ExpectNotFound(find);
+      Form().cmdCommand(i).Click();
+      EXPECT_EQ(Shown(), "a«b»c");
+      EXPECT_EQ(user.app.FoundPos, 0);
+    }
+  }
+  EXPECT_FALSE(user.form.DocumentChanged());
+}
+
+TEST_F(FindForm, ReplaceTakesTheFirstMatchAndPutsInWhatWasTyped) {
+  Ask("abc A«B»C", "ABC", "xY");
+  Replace();
+  EXPECT_EQ(Shown(), "xY«» ABC");
+  EXPECT_TRUE(user.form.txtEdit.HasFocus());
+  Replace();
+  EXPECT_EQ(Shown(), "xY xY«»");
+  Ask("-a«»", "a", "aa");
+  Replace();
+  Replace();
+  EXPECT_EQ(Shown(), "-aa«»a");
+}
+
+TEST_F(FindForm, ReplaceAllIsOneStepBack) {
+  Ask("«»Tä tä t..", "T", "tt");
+  user.form.txtEdit.EmptyUndoHistory();
+  ExpectReplacements("3");
+  ReplaceEach();
+  EXPECT_EQ(Shown(), "ttä ttä tt«»..");
+  EXPECT_EQ(user.app.FoundPos, 0);
+  EXPECT_TRUE(user.form.DocumentChanged());
+  user.Pane().Undo();
+  EXPECT_EQ(user.form.txtEdit.Text(), "Tä tä t..");
+}
+
+TEST_F(FindForm, ReplaceAllEndsWithoutAWordAtTheLastCharacter) {
+  Ask("ab ab«»", "ab", "x");
+  ReplaceEach();
+  EXPECT_EQ(Shown(), "x x«»");
+  EXPECT_EQ(user.app.FoundPos, 3);
+  Ask("abb«»", "b");
+  ReplaceEach();
+  EXPECT_EQ(Shown(), "a«»b");
+  Ask("«»a", "a", "b");
+  ReplaceEach();
+  EXPECT_EQ(Shown(), "«»a");
+  Ask("«»", "a", "b");
+  ReplaceEach();
+  Ask("a a--«»", "a", "b");
+  ExpectReplacements("2");
+  ReplaceEach();
+  EXPECT_EQ(Shown(), "b b«»--");
+}
+
+TEST_F(FindForm, AnEmptySearchTextIsFoundWhereTheSearchStarts) {
+  Ask("a«b»", "", "x");
+  Find();
+  EXPECT_EQ(Shown(), "«»ab");
+  FindNext();
+  EXPECT_EQ(Shown(), "a«»b");
+  Replace();
+  EXPECT_EQ(Shown(), "x«»ab");
+  ExpectNotFound("");
+  ReplaceEach();
+  EXPECT_EQ(Shown(), "x«»ab");
+
+  Ask("«»", "", "x");
+  for (int i = 0; i < 3; ++i) {
+    ExpectNotFound("");
+    Form().cmdCommand(i).Click();
+  }
+}
+
+TEST_F(FindForm, ThePlaceOutlivesTheForm) {
+  EXPECT_TRUE(Form().IsOnTop());
+  Ask("«»a a a", "a");
+  Find();
+  Form().cmdCommand(4).Click();
+  EXPECT_EQ(user.desktop.platform.forms.Loaded<frmFind>(), nullptr);
+
+  user.form.mnuReplace.Click();
+  EXPECT_EQ(Form().txtFind.Text(), "");
+  Form().txtFind.Type("A");
+  FindNext();
+  EXPECT_EQ(Shown(), "a «a» a");
+  user.form.mnuFind.Click();
+  EXPECT_EQ(Form().txtFind.Text(), "A");
+  EXPECT_EQ(user.desktop.platform.forms.Active(), &Form());
+  user.form.Unload();
+  EXPECT_EQ(user.desktop.platform.forms.Loaded<frmFind>(), nullptr);
+}
+
+TEST_F(FindForm, NothingIsFoundWhileNoDocumentIsOpen) {
+  user.form.mnuFileClose.Click();
+  ASSERT_FALSE(user.form.HasDocument());
+  Form().txtFind.SetText("a");
+  ExpectNotFound("a");
+  Find();
+  ReplaceEach();
+  EXPECT_FALSE(user.form.HasDocument());
+}
+
+}  // namespace
+}  // namespace tagsmith::sitetools
