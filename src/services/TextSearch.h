@@ -53,6 +53,7 @@ class TextSearch {
   void ChooseAnchor();
   std::size_t Advance(std::size_t matched, char32_t next) const;
   std::size_t NextAnchor(std::string_view text, std::size_t from) const;
+  std::size_t NextPair(std::string_view text, std::size_t from) const;
   bool MatchesBehind(std::string_view text, std::size_t& position, std::size_t& work) const;
   bool MatchesBefore(std::string_view text, std::size_t from, std::size_t& position,
                      std::size_t& work) const;
@@ -65,6 +66,7 @@ class TextSearch {
   // and the bytes in which it ends, each of its cases in one of them.
   std::size_t anchor_ = 0;
   std::string anchorEndings_;
+  bool hasPair_ = false;  // The anchor and the character in front of it are looked up together.
 };
 
 }  // namespace tagsmith
