@@ -44,10 +44,12 @@ std::optional<std::string> ReadAll(const FileDescriptor& file, std::size_t claim
 
 }  // namespace
 
-std::optional<std::string> ReadRegularFile(const std::string& hostPath, std::size_t limit) {
-  if (const auto status = FindStatus(hostPath)) RequireRegularFile(*status);
+std::optional<std::string> ReadRegularFile(const FoundPath& found, std::size_t limit) {
+  if (!found.entry || !S_ISREG(found.entry->st_mode)) {
+    if (const auto status = FindStatus(found.path)) RequireRegularFile(*status);
+  }
   // Should a pipe have taken the file's place by now, opening it does not wait for a writer.
-  const FileDescriptor file = OpenFile(hostPath, O_RDONLY | O_NONBLOCK | O_NOCTTY);
+  const FileDescriptor file = OpenFile(found.path, O_RDONLY | O_NONBLOCK | O_NOCTTY);
   const FileStatus status = StatusOf(file);
   RequireRegularFile(status);
   const auto size = static_cast<std::size_t>(status.st_size);

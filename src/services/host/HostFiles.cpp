@@ -49,6 +49,17 @@ std::string ToHostName(std::string_view name) {
   return *std::move(hostName);
 }
 
+// Opens a folder by its path as given, which nearly always is that on the disk, or else as spelt
+// there.
+template <class Open>
+auto OpenFolder(const std::string& given, Open open) {
+  try {
+    return open(given);
+  } catch (const Error&) {
+    return open(SpellAsOnDisk(given));
+  }
+}
+
 std::string WithoutSlashBehind(std::string hostPath) {
   while (hostPath.size() > 1 && hostPath.ends_with('/')) hostPath.pop_back();
   return hostPath;
@@ -114,7 +125,8 @@ std::vector<std::string> HostFiles::FileNames(std::string_view directory) const 
 
 std::vector<DirectoryEntry> HostFiles::Entries(std::string_view directory) const {
   std::vector<DirectoryEntry> entries;
-  DirectoryReader reader(ToHostPath(directory));
+  DirectoryReader reader = OpenFolder(
+      HostPathAsGiven(directory), [](const std::string& path) { return DirectoryReader(path); });
   while (const dirent* entry = reader.Next()) {
     if (entry->d_name[0] == '.') continue;
     entries.push_back(
@@ -133,24 +145,28 @@ bool HostFiles::FileExists(std::string_view path) const noexcept {
 }
 
 std::optional<std::string> HostFiles::ReadFile(std::string_view path, std::size_t limit) const {
-  return ReadRegularFile(ToHostPath(path), limit);
+  return ReadRegularFile(Find(path), limit);
 }
 
 void HostFiles::WriteFile(std::string_view path, std::string_view bytes, Durability durability) {
-  WriteSafely(ToHostPath(path), bytes, durability);
+  WriteSafely(Find(path), bytes, durability);
 }
 
 void HostFiles::CopyFile(std::string_view from, std::string_view to) {
   constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
-  if (const auto bytes = ReadRegularFile(ToHostPath(from), kNoLimit)) {
-    WriteSafely(ToHostPath(to), *bytes, Durability::kWritten);
+  if (const auto bytes = ReadRegularFile(Find(from), kNoLimit)) {
+    WriteSafely(Find(to), *bytes, Durability::kWritten);
   }
 }
 
 std::vector<std::string> HostFiles::RenameEntries(std::string_view directory,
                                                   std::span<const NewName> names) {
-  const std::string path = ToHostPath(directory);
-  const FileDescriptor folder = OpenFile(path, O_PATH | O_DIRECTORY);
+  std::string path;
+  const FileDescriptor folder =
+      OpenFolder(HostPathAsGiven(directory), [&path](const std::string& candidate) {
+        path = candidate;
+        return OpenFile(path, O_PATH | O_DIRECTORY);
+      });
   std::vector<std::string> left;
   for (const NewName& name : names) {
     if (name.from == name.to) continue;

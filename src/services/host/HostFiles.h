@@ -7,6 +7,7 @@
 
 #include "services/FileSystem.h"
 #include "services/host/DriveMap.h"
+#include "services/host/PathLookup.h"
 
 namespace tagsmith {
 
@@ -39,6 +40,7 @@ class HostFiles : public FileSystem {
 
  private:
   std::string HostPathAsGiven(std::string_view path) const;
+  FoundPath Find(std::string_view path) const { return LookUp(HostPathAsGiven(path)); }
   std::vector<std::string> ListNames(std::string_view directory, bool directories) const;
 
   Mounts mounts_;

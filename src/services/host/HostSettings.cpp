@@ -81,7 +81,7 @@ void HostSettings::Refresh() const {
 void HostSettings::Read() const {
   try {
     ParsedSettings parsed;
-    if (const auto bytes = ReadRegularFile(path_, kMostBytes)) {
+    if (const auto bytes = ReadRegularFile({path_, {}}, kMostBytes)) {
       parsed = ParseSettings(*bytes);
     } else {
       parsed.damaged = true;
@@ -123,7 +123,7 @@ void HostSettings::StoreLocked() {
   }
   SettingsTable merged = stored_;
   for (const auto& [name, text] : unsaved_) merged.insert_or_assign(name, text);
-  WriteSafely(path_, FormatSettings(merged), Durability::kWritten);
+  WriteSafely({path_, {}}, FormatSettings(merged), Durability::kWritten);
   unsaved_.clear();
   state_ = State::kUnread;
 }

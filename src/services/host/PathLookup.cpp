@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 #include "services/CaseFold.h"
 #include "services/Error.h"
@@ -69,13 +70,17 @@ FolderAndName SplitPath(const std::string& hostPath) {
   return {hostPath.substr(0, start), hostPath.substr(start, end - start)};
 }
 
-std::string SpellAsOnDisk(std::string_view hostPath) {
+std::string SpellAsOnDisk(std::string_view hostPath) { return LookUp(hostPath).path; }
+
+FoundPath LookUp(std::string_view hostPath) {
   const std::vector<std::string_view> components = PathComponents(hostPath);
   // One look is enough where everything has the name given: that is nearly always.
-  std::string found(hostPath);
-  if (IsPlain(hostPath, components) && FindEntry(found)) return found;
+  if (IsPlain(hostPath, components)) {
+    std::string given(hostPath);
+    if (const auto entry = FindEntry(given)) return {std::move(given), entry};
+  }
 
-  found.clear();
+  std::string found;
   for (const std::string_view component : components) {
     if (component == "..") {
       found = FolderAbove(found);
@@ -86,7 +91,7 @@ std::string SpellAsOnDisk(std::string_view hostPath) {
     if (!FindEntry(found)) found = folder + FindWithoutCase(folder, component);
   }
   if (hostPath.ends_with('/') || found.empty()) found += '/';
-  return found;
+  return {std::move(found), std::nullopt};
 }
 
 }  // namespace tagsmith

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "services/host/FileStatus.h"
 
 namespace tagsmith {
 
@@ -21,5 +24,13 @@ FolderAndName SplitPath(const std::string& hostPath);
 /// for a file that is yet to be made, as given. "." and ".." are worked out; a slash at the end
 /// stays. Never throws for what the disk holds.
 std::string SpellAsOnDisk(std::string_view hostPath);
+
+/// A path as `SpellAsOnDisk` gives it, and what is there, symbolic links not followed; nothing
+/// where that is not known.
+struct FoundPath {
+  std::string path;
+  std::optional<FileStatus> entry;
+};
+FoundPath LookUp(std::string_view hostPath);
 
 }  // namespace tagsmith

@@ -21,13 +21,14 @@ bool IsListed(const FolderAndName& entry) {
   return false;
 }
 
-// Two names of one file (hard links) are two entries: then the folder lists both.
+// Two names of one file (hard links) are two entries: then the folder lists both. That is looked up
+// only where there can be two.
 bool IsSameEntry(const std::string& from, const std::string& to) {
   if (from == to) return true;
   const auto one = FindEntry(from);
   const auto other = FindEntry(to);
   return one && other && one->st_dev == other->st_dev && one->st_ino == other->st_ino &&
-         !IsListed(SplitPath(to));
+         (S_ISDIR(one->st_mode) || one->st_nlink == 1 || !IsListed(SplitPath(to)));
 }
 
 // Returns 0 or the error's number.

@@ -138,12 +138,12 @@ bool ReplaceIfPossible(const std::string& path, const FileStatus& old, std::stri
 
 }  // namespace
 
-void WriteSafely(const std::string& hostPath, std::string_view bytes, Durability durability) {
+void WriteSafely(const FoundPath& found, std::string_view bytes, Durability durability) {
   std::optional<FileSizeSignalBlock> block;
   if (HasFileSizeLimit()) block.emplace();
-  const std::optional<FileStatus> entry = FindEntry(hostPath);
+  const std::optional<FileStatus> entry = found.entry ? found.entry : FindEntry(found.path);
   const bool isPlain = entry && !S_ISLNK(entry->st_mode);
-  const std::string path = isPlain ? hostPath : FollowLinks(hostPath);
+  const std::string path = isPlain ? found.path : FollowLinks(found.path);
   const std::optional<FileStatus> old = isPlain ? entry : FindStatus(path);
   if (!old) return Replace(path, old, bytes, durability);
 

@@ -4,10 +4,11 @@
 #include <string_view>
 
 #include "services/FileSystem.h"
+#include "services/host/PathLookup.h"
 
 namespace tagsmith {
 
-/// Makes `bytes` the contents of the file at `hostPath`, or makes the file, as
+/// Makes `bytes` the contents of the file at `found`, or makes the file, as
 /// `FileSystem::WriteFile` says.
 ///
 /// The bytes go into a temporary file beside it, which then takes its name, with the same mode,
@@ -19,6 +20,6 @@ namespace tagsmith {
 ///
 /// Throws `Error`: kPermissionDenied also for a file that the user may not write in a folder that
 /// he may, kDiskFull, kNotARegularFile, kPathNotFound.
-void WriteSafely(const std::string& hostPath, std::string_view bytes, Durability durability);
+void WriteSafely(const FoundPath& found, std::string_view bytes, Durability durability);
 
 }  // namespace tagsmith

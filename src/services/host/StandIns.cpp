@@ -39,6 +39,11 @@ bool IsSpeltByteByByte(const DecodedChar& character, std::span<const StandIn> st
 }  // namespace
 
 std::string ToStandIns(std::string_view bytes, std::span<const StandIn> standIns) {
+  if (IsAscii(bytes) && std::ranges::none_of(standIns, [bytes](const StandIn& standIn) {
+        return bytes.find(standIn.byte) != std::string_view::npos;
+      })) {
+    return std::string(bytes);
+  }
   std::string text;
   text.reserve(bytes.size());
   for (std::size_t i = 0; i < bytes.size();) {

@@ -46,7 +46,7 @@ const std::string kAccessList(
 class SafeWriterTest : public testing::Test {
  protected:
   void Write(std::string_view name, std::string_view bytes) {
-    WriteSafely(folder_ / name, bytes, Durability::kFlushed);
+    WriteSafely({folder_ / name, {}}, bytes, Durability::kFlushed);
     EXPECT_EQ(GetFile(folder_ / name), bytes);
   }
 
@@ -108,7 +108,9 @@ TEST_F(SafeWriterTest, LinksStayLinks) {
     Write(name, std::string(100000, 'x') + name);
     Write(name, name);
   }
-  EXPECT_TRUE(CodeThrownBy([&] { WriteSafely(folder_ / "loop", "x", Durability::kWritten); }));
+  EXPECT_TRUE(CodeThrownBy([&] {
+    WriteSafely({folder_ / "loop", {}}, "x", Durability::kWritten);
+  }));
   EXPECT_EQ(GetFile(folder_ / "sub/target"), "link-to-link");
   EXPECT_EQ(GetFile(folder_ / "sub/new"), "dangling");
   EXPECT_EQ(GetFile(folder_ / "one"), "other");
@@ -128,7 +130,9 @@ TEST_F(SafeWriterTest, WhatTheUserMayNotWriteIsRefusedAndAnothersFileStaysHis) {
     fs::permissions(folder_ / "read-only", fs::perms{0444});
     fs::permissions(folder_ / "locked", fs::perms{0555});
     const auto codeFor = [this](const char* name) {
-      return CodeThrownBy([&] { WriteSafely(folder_ / name, "new text", Durability::kFlushed); });
+      return CodeThrownBy([&] {
+        WriteSafely({folder_ / name, {}}, "new text", Durability::kFlushed);
+      });
     };
     EXPECT_EQ(codeFor("read-only"), ErrorCode::kPermissionDenied);
     EXPECT_EQ(GetFile(folder_ / "read-only"), "old");
@@ -159,7 +163,9 @@ void LayDownFiles(const TemporaryFolder& folder) {
 
 void ExpectOldFilesAfter(const TemporaryFolder& folder, ErrorCode code) {
   for (const char* name : {"single", "double", "new"}) {
-    EXPECT_EQ(CodeThrownBy([&] { WriteSafely(folder / name, kTooMuch, Durability::kWritten); }),
+    EXPECT_EQ(CodeThrownBy([&] {
+                WriteSafely({folder / name, {}}, kTooMuch, Durability::kWritten);
+              }),
               code)
         << name;
   }
@@ -174,7 +180,7 @@ TEST(SafeWriterFaults, AFullDiskLeavesTheOldFileAndNothingElse) {
     LayDownFiles(folder);
     ExpectOldFilesAfter(folder, ErrorCode::kDiskFull);
     EXPECT_EQ(NamesIn(folder.Path()), (Names{"double", "second name", "single"}));
-    WriteSafely(folder / "double", "there is room for this", Durability::kFlushed);
+    WriteSafely({folder / "double", {}}, "there is room for this", Durability::kFlushed);
     EXPECT_EQ(GetFile(folder / "second name"), "there is room for this");
   });
   if (!possible) GTEST_SKIP() << "mounting is not allowed";
@@ -208,8 +214,8 @@ TEST(SafeWriterFaults, AProgramKilledAtAnyMomentLeavesTheOldOrTheNewFile) {
     const pid_t child = ::fork();
     if (child == 0) {
       for (;;) {
-        WriteSafely(file, two, Durability::kWritten);
-        WriteSafely(file, one, Durability::kWritten);
+        WriteSafely({file, {}}, two, Durability::kWritten);
+        WriteSafely({file, {}}, one, Durability::kWritten);
       }
     }
     ::usleep(random() % 8000U);
