@@ -1,19 +1,20 @@
 #include "sitetools/PaintPace.h"
 
+#include <algorithm>
+
 #include "services/Form.h"
 
 namespace tagsmith::sitetools {
 
-bool PaintPace::IsDue() {
-  constexpr std::chrono::milliseconds kInterval(33);
-  const auto now = std::chrono::steady_clock::now();
-  if (now < next_) return false;
-  next_ = now + kInterval;
-  return true;
-}
-
-void PaintPace::Step() {
-  if (IsDue()) form_.Refresh();
+void PaintPace::Step(const std::function<void()>& show) {
+  using Clock = std::chrono::steady_clock;
+  constexpr Clock::duration kInterval = std::chrono::milliseconds(33);
+  const auto start = Clock::now();
+  if (start < next_) return;
+  if (show) show();
+  form_.Refresh();
+  const auto end = Clock::now();
+  next_ = end + std::max(kInterval, end - start);
 }
 
 }  // namespace tagsmith::sitetools

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 
 namespace tagsmith {
 class Form;
@@ -8,17 +9,16 @@ class Form;
 
 namespace tagsmith::sitetools {
 
-/// Lets a form paint during a long run, some 30 times a second and no more: what a step costs must
-/// not be the painting.
+/// Lets a form paint during a long run, some 30 times a second and no more, and never for more than
+/// half of the time: what a step costs must not be the painting.
 class PaintPace {
  public:
   /// `form` outlives the object.
   explicit PaintPace(Form& form) : form_(form) {}
 
-  /// Whether it is time to paint again; then the next time is counted from now. The first step is.
-  bool IsDue();
-  /// Paints what of the form is waiting for it, if it is time.
-  void Step();
+  /// If it is time, as at the first step, calls `show`, which brings the controls up to date, and
+  /// paints what of the form is waiting for it.
+  void Step(const std::function<void()>& show = {});
 
  private:
   Form& form_;

@@ -49,7 +49,7 @@ void frmDirectoryReplace::cmdStart_Click() {
     return;
   }
   const TextSearch find(txtFind.Text());
-  if (find.IsEmpty()) {
+  if (find.IsEmpty() && !txtReplace.Text().empty()) {  // It would be put in without end.
     Inform(txtFind.Text() + " Was Not Found", kSorryTitle);
     return;
   }
@@ -65,11 +65,7 @@ void frmDirectoryReplace::DoReplace(const TextSearch& find) {
   PaintPace pace(*this);
   const std::string directory = Directory();
   std::string text = txtEdit.Text();
-  const auto paint = [&] {
-    if (!pace.IsDue()) return;
-    ShowText(text);
-    Refresh();
-  };
+  const auto paint = [&] { pace.Step([&] { ShowText(text); }); };
   ForEachSelected([&](const std::string& name) {
     lblStatus.SetCaption(name);
     Report(ReplaceInOneFile(GetPlatform().files, directory + name, find, txtReplace.Text(), text,

@@ -73,7 +73,7 @@ class frmFileManDialog::Run : public IndexWatcher {
   }
   void OnDirectory(std::size_t index, std::string_view path) override {
     form_.MyProgress.SetValue(static_cast<int>(index));
-    if (pace_.IsDue()) ShowDirectory(path);
+    pace_.Step([&] { ShowDirectory(path); });
   }
   bool OnFile() override {
     form_.application_.platform.events.DoEvents();

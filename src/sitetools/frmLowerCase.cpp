@@ -65,10 +65,18 @@ void frmLowerCase::cmdStart_Click() {
     const std::string drive = MyDrive.Drive();
     left = WalkDirectory(highlighted);
     if (!left || !IsLoaded()) return;
-    MyDirectory.SetPath(highlighted);
+    ShowAgain(highlighted);
     if (MyDrive.Drive() != drive) MyDrive.SetDrive(drive);
   }
   if (left->count > 0) TellNamesLeft(*left);
+}
+
+void frmLowerCase::ShowAgain(const std::string& directory) {
+  try {
+    MyDirectory.SetPath(directory);
+  } catch (const Error&) {  // Gone in the meantime.
+    MyDirectory.Refresh();
+  }
 }
 
 std::optional<NamesLeft> frmLowerCase::WalkDirectory(const std::string& Target) {
@@ -80,7 +88,7 @@ std::optional<NamesLeft> frmLowerCase::WalkDirectory(const std::string& Target) 
   PaintPace pace(*this);
   try {
     return LowerCaseBelow(application_.platform.files, Target, [&](std::string_view path) {
-      if (pace.IsDue()) MyDirectory.SetPath(path);
+      pace.Step([&] { MyDirectory.SetPath(path); });
       application_.platform.events.DoEvents();
       return IsLoaded();
     });

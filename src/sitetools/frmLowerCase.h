@@ -36,6 +36,8 @@ class frmLowerCase : public Form {
   void cmdStart_Click();
   /// What the walk left; nothing when an error has ended the program.
   std::optional<NamesLeft> WalkDirectory(const std::string& Target);
+  /// Opens the directory again, or the nearest one above it.
+  void ShowAgain(const std::string& directory);
   void TellNamesLeft(const NamesLeft& left);
 
   Application& application_;

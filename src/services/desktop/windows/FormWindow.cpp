@@ -177,9 +177,11 @@ void FormWindow::RepaintNow() {
   const auto isUp = [this] {
     return window_->windowHandle() != nullptr && window_->windowHandle()->isExposed();
   };
-  while (window_->isVisible() && !isUp() && clock.elapsed() < kPatience) {
+  // Once it has been up it may be covered or on another desktop: that is not waited for.
+  while (!wasUp_ && window_->isVisible() && !isUp() && clock.elapsed() < kPatience) {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   }
+  wasUp_ = wasUp_ || isUp();
   window_->repaint();
 }
 

@@ -95,6 +95,7 @@ class FormWindow final : public QObject, public FormView, private ViewHost {
   bool controlsChanged_ = false;
   bool shown_ = false;
   bool hourglass_ = false;
+  bool wasUp_ = false;  // The desktop has put the window up once.
 };
 
 }  // namespace tagsmith
