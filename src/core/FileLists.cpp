@@ -13,12 +13,16 @@ namespace {
 
 constexpr std::string_view kFirstDrive = "c:";
 
+void SayNoDisk(Application& application, const FileLists& lists) {
+  application.MsgBox(lists.form, "Please Insert A Disk In The Drive First", kInformationIcon,
+                     "Sorry...");
+}
+
 void OpenDrive(Application& application, const FileLists& lists) {
   try {
     lists.directory.SetPath(lists.drive.Drive());
   } catch (const Error&) {
-    application.MsgBox(lists.form, "Please Insert A Disk In The Drive First", kInformationIcon,
-                       "Sorry...");
+    SayNoDisk(application, lists);
     // A first drive that cannot be read itself must not bring the question again and again.
     if (!lists.drive.Drive().starts_with(kFirstDrive)) lists.drive.SetDrive(kFirstDrive);
   }
@@ -37,9 +41,18 @@ void ChainFileLists(Application& application, const FileLists& lists,
 
 void OpenAtMainForm(Application& application, const FileLists& lists) {
   frmMain& main = application.MainForm();
-  main.MyDirectory.Refresh();  // Its folder may have gone meanwhile.
-  lists.drive.SetDrive(main.MyDrive.Drive());
-  lists.directory.SetPath(main.MyDirectory.Path());
+  try {
+    lists.drive.SetDrive(main.MyDrive.Drive());
+  } catch (const Error&) {  // The main form still shows a drive that has gone.
+    SayNoDisk(application, lists);
+    lists.drive.SetDrive(kFirstDrive);
+  }
+  try {
+    lists.directory.SetPath(main.MyDirectory.Path());
+  } catch (const Error&) {  // Its folder has gone meanwhile: the nearest one above it opens.
+    main.MyDirectory.Refresh();
+    lists.directory.SetPath(main.MyDirectory.Path());
+  }
 }
 
 }  // namespace tagsmith
