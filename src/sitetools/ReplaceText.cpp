@@ -1,7 +1,5 @@
 #include "sitetools/ReplaceText.h"
 
-#include <algorithm>
-
 #include "services/FoldedChar.h"
 
 namespace tagsmith::sitetools {

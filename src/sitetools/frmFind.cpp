@@ -1,6 +1,5 @@
 #include "sitetools/frmFind.h"
 
-#include <iterator>
 #include <string>
 
 #include "core/frmMain.h"

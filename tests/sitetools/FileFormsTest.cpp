@@ -162,6 +162,7 @@ TEST_F(FileForms, NothingRunsWithoutFilesOrWithoutAText) {
     Expect("You Must Select At Least One File", kSorry);
     form.cmdStart.Click();
     form.txtFind.SetText("");
+    form.txtReplace.SetText("x");
     form.cmdSelectAll.Click();
     Expect(" Was Not Found", kSorry);
     form.cmdStart.Click();
