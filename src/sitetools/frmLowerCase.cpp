@@ -6,6 +6,8 @@
 
 #include "core/Application.h"
 #include "core/FileLists.h"
+#include "core/Sidebar.h"
+#include "core/frmMain.h"
 #include "services/Dialogs.h"
 #include "services/Error.h"
 #include "services/EventQueue.h"
@@ -67,6 +69,7 @@ void frmLowerCase::cmdStart_Click() {
     if (!left || !IsLoaded()) return;
     ShowAgain(highlighted);
     if (MyDrive.Drive() != drive) MyDrive.SetDrive(drive);
+    application_.MainForm().Lists().RefreshDriveLists();
   }
   if (left->count > 0) TellNamesLeft(*left);
 }
