@@ -20,7 +20,11 @@ void Install(Application& application) {
     application.Instance<frmRTFDialog>().Show(Modality::kModal);
   };
   for (Menu* entry : {&form.mnuFind, &form.mnuReplace}) {
-    entry->onClick = [&application] { application.Instance<frmFind>().Show(); };
+    entry->onClick = [&application] {
+      auto& find = application.Instance<frmFind>();
+      find.Show();
+      find.txtFind.SetFocus();
+    };
   }
   form.Get<CommandButton>("cmdFileManDialog").onClick = [&application] {
     application.Instance<frmExportWizard>().Show();

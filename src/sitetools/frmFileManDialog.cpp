@@ -158,7 +158,10 @@ void frmFileManDialog::mnuAbout_Click() {
 void frmFileManDialog::cmdBrowse_Click() {
   MyDialog.filter = "HTML Files|*.html";
   MyDialog.initDir = MyDirectory.Path();
-  if (MyDialog.ShowOpen() && !MyDialog.fileName.empty()) txtFileName.SetText(MyDialog.fileName);
+  try {
+    if (MyDialog.ShowOpen() && !MyDialog.fileName.empty()) txtFileName.SetText(MyDialog.fileName);
+  } catch (const Error&) {  // As after a cancel.
+  }
 }
 
 void frmFileManDialog::cmdBack_Click() {
