@@ -117,7 +117,7 @@ QString NormalLineBreaks(QString text) {
 
 // The window is as wide as its title needs.
 void MakeRoomForTitle(QMessageBox& box) {
-  constexpr int kLettersOfButtons = 10;  // What the title bar's buttons take.
+  constexpr int kLettersOfButtons = 18;  // What the title bar's buttons take.
   auto* prompt = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
   if (prompt == nullptr) return;
   const QFontMetrics metrics = box.fontMetrics();
