@@ -6,7 +6,7 @@ root=$(cd "$(dirname "$0")/.." && pwd)
 . "$root/tools/setup.sh"
 
 install_packages $BUILD_PACKAGES libbenchmark-dev hyperfine time xvfb xauth
-build bench start_bare start_tagsmith document_bench dialogs_bench generators_bench
+build bench start_bare start_tagsmith document_bench dialogs_bench generators_bench sitetools_bench
 bin="$root/build/bench/bin"
 home=$(mktemp -d)
 trap 'rm -rf "$home"' EXIT
@@ -19,7 +19,8 @@ xvfb-run -a -s "-screen 0 1280x960x24" sh -eu -c "
     done
     '$bin/document_bench' --benchmark_min_time=0.5 --benchmark_out='$home/document.json'
     '$bin/dialogs_bench' --benchmark_min_time=0.2
-    '$bin/generators_bench' --benchmark_min_time=0.2"
+    '$bin/generators_bench' --benchmark_min_time=0.2
+    '$bin/sitetools_bench' --benchmark_min_time=0.2"
 
 # Each command's time over the bare component's, at the largest size.
 echo "ratio to the bare component:"

@@ -48,6 +48,7 @@ def try_menu(browser):
     expect_lines(browser, TOPICS)
     browser.click("#lItem0 img")
     expect_lines(browser, OPENED)
+    browser.value("document.images[0].decode()")
     expect(browser.value("[isNav4, document.images[0].naturalWidth, document.images[0].src.slice(-9),"
                          " ...[...document.links].map(a => a.getAttribute('href') + a.target)]"),
            [False, 13, "/true.gif", "a%20b.html_self", "http://www.example.com/#ü_self",

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <random>
 #include <string>
 #include <string_view>
@@ -110,6 +109,7 @@ TEST(TextSearch, AMatchThatBeganInFrontIsCompleted) {
 }
 
 // Each takes milliseconds; a search that looks at the pattern anew at every place takes minutes.
+// In quadratic time it would not end before the test is stopped.
 TEST(TextSearch, NoPatternMakesItSlow) {
   constexpr std::size_t kSize = 1'000'000;
   const std::string as(kSize, 'a');
@@ -117,7 +117,6 @@ TEST(TextSearch, NoPatternMakesItSlow) {
   std::string rare = as;
   for (std::size_t i = 0; i < kSize; i += 100) rare[i] = 'q';
 
-  const auto start = std::chrono::steady_clock::now();
   EXPECT_EQ(Found(as, half + "b"), Place{});
   EXPECT_EQ(Found(as, "b" + half), Place{});
   EXPECT_EQ(Found(as, half + "b" + half.substr(1)), Place{});
@@ -127,7 +126,6 @@ TEST(TextSearch, NoPatternMakesItSlow) {
   std::size_t count = 0;
   for (auto match = every.Find(as); match; match = every.Find(as, match->start + 1)) ++count;
   EXPECT_EQ(count, kSize);
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
 }
 
 }  // namespace
