@@ -1,11 +1,16 @@
 #include "services/rtf/Body.h"
 
 #include <algorithm>
+#include <array>
+
+#include "services/Utf8.h"
+#include "services/rtf/ByteCollector.h"
 
 namespace tagsmith::rtf {
 namespace {
 
 constexpr std::size_t kMostFlows = 8;
+constexpr std::size_t kMostListText = 64;
 
 }  // namespace
 
@@ -13,10 +18,16 @@ Body::Body(DocumentSink& sink) : sink_(sink) { flows_.emplace_back(sink, 0); }
 
 void Body::AddRun(RunKind kind, const CharacterFormat& format) {
   Paragraph& paragraph = Current().paragraph;
+  Current().hasContent |= kind != RunKind::kBookmark;
   paragraph.runs.push_back({.kind = kind, .start = paragraph.text.size(), .format = format});
 }
 
 void Body::AddText(std::string_view text, const CharacterFormat& format) {
+  if (Current().skipsBlanks) {
+    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+    if (text.empty()) return;
+    Current().skipsBlanks = false;
+  }
   Paragraph& paragraph = Current().paragraph;
   const bool isSame = !paragraph.runs.empty() && paragraph.runs.back().kind == RunKind::kText &&
                       paragraph.runs.back().format == format;
@@ -26,20 +37,42 @@ void Body::AddText(std::string_view text, const CharacterFormat& format) {
 }
 
 void Body::AddMark(RunKind kind, const CharacterFormat& format, int number) {
+  Current().skipsBlanks = false;
   AddRun(kind, format);
   Current().paragraph.runs.back().number = number;
 }
 
 void Body::AddBookmark(std::string_view name) {
+  name = name.substr(0, SnapToCharacter(name, kMostNameBytes));
   AddRun(RunKind::kBookmark, {});
   Current().paragraph.text += name;
   Current().paragraph.runs.back().length = name.size();
+}
+
+void Body::AddListText(std::string_view text, const CharacterFormat& format) {
+  AppendLimited(Current().listText, text, kMostListText);
+  Current().listTextFormat = format;
+}
+
+void Body::ShowListText() {
+  Flow& flow = Current();
+  Paragraph& paragraph = flow.paragraph;
+  const std::array<Run, 2> mark = {Run{.start = paragraph.text.size(),
+                                       .length = flow.listText.size(),
+                                       .format = flow.listTextFormat},
+                                   Run{.kind = RunKind::kTab, .format = flow.listTextFormat}};
+  paragraph.text += flow.listText;
+  paragraph.runs.insert(paragraph.runs.begin(), mark.begin(), mark.end());
 }
 
 void Body::EndParagraph(const ParagraphFormat& format) {
   Flow& flow = Current();
   const int depth = flow.tables.Limited(format.tableDepth);
   flow.tables.Enter(depth);
+  if (!flow.listText.empty() && format.list.list == kAbsent) ShowListText();
+  flow.listText.clear();
+  flow.skipsBlanks = false;
+  flow.hasContent = false;
   flow.paragraph.format = format;
   flow.paragraph.format.tableDepth = flow.tables.DepthAtSink(depth);
   flow.paragraph.format.pageBreakBefore |= flow.breaksPage || flow.breaksSection;
@@ -52,6 +85,12 @@ void Body::EndParagraph(const ParagraphFormat& format) {
 
 void Body::EndStartedParagraph(const ParagraphFormat& format) {
   if (!Current().paragraph.runs.empty()) EndParagraph(format);
+  Current().listText.clear();
+}
+
+// Bookmarks behind the last paragraph are no paragraph of their own.
+void Body::EndLastParagraph(const ParagraphFormat& format) {
+  if (Current().hasContent) EndParagraph(format);
 }
 
 void Body::EndCell(ParagraphFormat format, int depth) {
@@ -64,8 +103,7 @@ void Body::EndCell(ParagraphFormat format, int depth) {
 // Bookmarks behind the last cell wait for the next one.
 void Body::EndRow(ParagraphFormat format, int depth) {
   format.tableDepth = depth;
-  const auto isBookmark = [](const Run& run) { return run.kind == RunKind::kBookmark; };
-  if (!std::ranges::all_of(Current().paragraph.runs, isBookmark)) EndParagraph(format);
+  if (Current().hasContent) EndParagraph(format);
   TableTracker& tables = Current().tables;
   if (tables.Limited(depth) > 0) tables.EndRow(tables.Limited(depth));
 }
@@ -100,13 +138,13 @@ bool Body::BeginBox(int depth) {
 void Body::EndBox(const ParagraphFormat& last) { EndFlow(last); }
 
 void Body::EndFlow(const ParagraphFormat& last) {
-  EndStartedParagraph(last);
+  EndLastParagraph(last);
   Current().tables.Enter(0);
   flows_.pop_back();
 }
 
 void Body::End(const ParagraphFormat& last) {
-  EndStartedParagraph(last);
+  EndLastParagraph(last);
   Current().tables.Enter(0);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -20,6 +21,10 @@ class Body {
   /// A run without text: `number` is that of its picture.
   void AddMark(RunKind kind, const CharacterFormat& format, int number = kAbsent);
   void AddBookmark(std::string_view name);
+  /// The mark of a list's item, which is shown if the paragraph stands in no list.
+  void AddListText(std::string_view text, const CharacterFormat& format);
+  /// Passes over the blanks that come next in a note.
+  void SkipBlanks() { Current().skipsBlanks = Current().note != kAbsent; }
 
   void EndParagraph(const ParagraphFormat& format);
   /// Ends the paragraph unless nothing is in it.
@@ -60,12 +65,18 @@ class Body {
     TableTracker tables;
     ListPlace oldList;
     int note = kAbsent;
+    std::string listText;
+    CharacterFormat listTextFormat;
+    bool hasContent = false;  ///< Whether the paragraph has more than bookmarks.
+    bool skipsBlanks = false;
     bool breaksPage = false;
     bool breaksSection = false;
   };
 
   Flow& Current() { return flows_.back(); }
   void AddRun(RunKind kind, const CharacterFormat& format);
+  void ShowListText();
+  void EndLastParagraph(const ParagraphFormat& format);
   void EndFlow(const ParagraphFormat& last);
 
   DocumentSink& sink_;

@@ -52,6 +52,11 @@ std::string WithoutDecoder(int codePage, std::string_view bytes) {
 
 }  // namespace
 
+void AppendLimited(std::string& text, std::string_view piece, std::size_t most) {
+  const std::size_t left = most - std::min(most, text.size());
+  text += piece.substr(0, SnapToCharacter(piece, left));
+}
+
 void ByteCollector::Add(int codePage, unsigned char byte) {
   if (codePage != codePage_) ChangeCodePage(codePage);
   if (isMultiByte_) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -35,6 +36,12 @@ class ByteCollector {
   bool isInsideCharacter_ = false;
   std::array<char32_t, 256> characters_{};  // As far as they have been asked for.
 };
+
+/// What a name of a font, a style or a bookmark may have; what is longer is damage.
+constexpr std::size_t kMostNameBytes = 255;
+
+/// Appends as many whole characters of `piece` (UTF-8) as leave `text` within `most` bytes.
+void AppendLimited(std::string& text, std::string_view piece, std::size_t most);
 
 /// Whether a text may hold `codePoint`: a Unicode character that controls nothing.
 constexpr bool IsTextCharacter(char32_t codePoint) {

@@ -13,6 +13,11 @@ constexpr int kTwipsOfHalfPoint = 10;
 constexpr int kLargestHalfPoints = 3276;
 constexpr Colour kBlack = 0;
 
+constexpr std::size_t kLongestName = 255;
+
+// Longer ones stand once in the style sheet.
+constexpr std::size_t kLongestStyle = 120;
+
 int TwipsOf(int halfPoints) {
   return std::clamp(halfPoints, 1, kLargestHalfPoints) * kTwipsOfHalfPoint;
 }
@@ -30,7 +35,7 @@ std::size_t CharacterStyles::LookHash::operator()(const Look& look) const {
 }
 
 void CharacterStyles::AddFont(int number, std::string_view name, std::string_view family) {
-  fonts_[number] = {std::string(name), std::string(family)};
+  fonts_[number] = {std::string(name.size() <= kLongestName ? name : ""), std::string(family)};
 }
 
 CharacterStyles::Look CharacterStyles::LookOf(const CharacterFormat& format) {
@@ -88,10 +93,9 @@ std::string CharacterStyles::PageFont() const {
   return font;
 }
 
-std::string CharacterStyles::StartTag(const Look& look, std::string_view family) const {
-  std::string tag = "<span";
-  const std::size_t bare = tag.size();
-  StyleAttribute style(tag);
+std::string CharacterStyles::StyleOf(const Look& look, std::string_view family) const {
+  std::string attribute;
+  StyleAttribute style(attribute);
   if (look.font != pageFont_ && !family.empty()) style.Add("font-family", family);
   if (look.halfPoints != pageHalfPoints_) style.AddPoints("font-size", TwipsOf(look.halfPoints));
   if (look.colour != kAbsent) style.AddColour("color", look.colour);
@@ -99,18 +103,33 @@ std::string CharacterStyles::StartTag(const Look& look, std::string_view family)
   if (look.smallCaps) style.Add("font-variant", "small-caps");
   if (look.allCaps) style.Add("text-transform", "uppercase");
   style.Close();
-  if (tag.size() == bare) return {};
-  return tag + '>';
+  return attribute;
 }
 
-std::vector<std::string> CharacterStyles::StartTags() const {
+// A long style becomes a rule, since many runs may have it.
+std::string CharacterStyles::StartTag(std::string_view attribute, std::size_t number,
+                                      std::string& rules) {
+  constexpr std::string_view kBegin = " style=\"";
+  if (attribute.empty()) return {};
+  if (attribute.size() <= kLongestStyle) return "<span" + std::string(attribute) + '>';
+  attribute.remove_prefix(kBegin.size());
+  attribute.remove_suffix(1);
+  const std::string name = 's' + std::to_string(number);
+  rules += '.' + name + '{';
+  rules += attribute;
+  rules += '}';
+  rules += kLineEnd;
+  return "<span class=\"" + name + "\">";
+}
+
+std::vector<std::string> CharacterStyles::StartTags(std::string& rules) const {
   std::unordered_map<int, std::string> families;
   std::vector<std::string> tags;
   tags.reserve(styles_.size());
   for (const Style& style : styles_) {
     const auto [family, isNew] = families.try_emplace(style.look.font);
     if (isNew) family->second = FamilyOf(style.look.font);
-    tags.push_back(StartTag(style.look, family->second));
+    tags.push_back(StartTag(StyleOf(style.look, family->second), tags.size() + 1, rules));
   }
   return tags;
 }

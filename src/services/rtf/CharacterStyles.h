@@ -31,8 +31,9 @@ class CharacterStyles {
   /// The page's font as declarations of a style sheet.
   std::string PageFont() const;
 
-  /// The start tags by number; empty where the text looks as the page's own.
-  std::vector<std::string> StartTags() const;
+  /// The start tags by number; empty where the text looks as the page's own. Appends the rules of a
+  /// style sheet that they need to `rules`.
+  std::vector<std::string> StartTags(std::string& rules) const;
 
  private:
   struct Look {
@@ -59,7 +60,8 @@ class CharacterStyles {
 
   static Look LookOf(const CharacterFormat& format);
   std::string FamilyOf(int font) const;
-  std::string StartTag(const Look& look, std::string_view family) const;
+  std::string StyleOf(const Look& look, std::string_view family) const;
+  static std::string StartTag(std::string_view attribute, std::size_t number, std::string& rules);
 
   std::string fontName_;
   std::unordered_map<int, Font> fonts_;

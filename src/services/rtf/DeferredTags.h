@@ -22,7 +22,8 @@ struct StartTags {
   std::vector<std::string> links;
 };
 
-/// Appends `markup` with the tags in place of its marks.
+/// Appends `markup` with the tags in place of its marks. Links that would make the page far larger
+/// than its markup, since a long address comes again and again, are left out from there on.
 void AppendResolved(std::string& out, std::string_view markup, const StartTags& tags);
 
 }  // namespace tagsmith::rtf

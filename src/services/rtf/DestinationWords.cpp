@@ -76,6 +76,11 @@ void EnterInstruction(Interpreter& interpreter, const Control&) { interpreter.Be
 void EnterResult(Interpreter& interpreter, const Control&) { interpreter.BeginResult(); }
 void EnterNote(Interpreter& interpreter, const Control&) { interpreter.BeginNote(); }
 
+// A note's number stands before its text; the writer brings its own.
+void PutNoteNumber(Interpreter& interpreter, const Control&) {
+  if (interpreter.State().destination == Destination::kBody) interpreter.body.SkipBlanks();
+}
+
 void EnterBookmark(Interpreter& interpreter, const Control&) {
   if (interpreter.State().destination != Destination::kBody) return interpreter.SkipGroup();
   interpreter.EnterCapture(GroupEnd::kBookmark);
@@ -107,6 +112,7 @@ constexpr ControlWord kWords[] = {
     {"fldrslt", EnterResult},
     {"bkmkstart", EnterBookmark},
     {"footnote", EnterNote},
+    {"chftn", PutNoteNumber},
     {"shppict", PassOn},
     {"picprop", PassOn},
     {"header", Skip},
@@ -126,13 +132,11 @@ constexpr ControlWord kWords[] = {
     {"keycode", Skip},
     {"template", Skip},
     {"userprops", Skip},
-    {"listtext", Skip},
     {"listpicture", Skip},
     {"leveltext", Skip},
     {"levelnumbers", Skip},
     {"listname", Skip},
     {"liststylename", Skip},
-    {"pntext", Skip},
     {"pntxta", Skip},
     {"pntxtb", Skip},
     {"pnseclvl", Skip},

@@ -4,6 +4,7 @@
 #include <cctype>
 #include <cstddef>
 
+#include "services/rtf/ByteCollector.h"
 #include "services/rtf/CodePages.h"
 
 namespace tagsmith::rtf {
@@ -13,9 +14,11 @@ constexpr int kSymbolCodePage = 42;
 constexpr int kOutlineLevels = 9;
 constexpr int kHeadings = 6;
 
-// "heading 1" to "heading 9", as English versions name their styles in any case.
+// "heading 1" to "heading 9", as English versions name their styles in any case. Other names of the
+// same style may follow behind commas.
 int HeadingOfStyleName(std::string_view name) {
   constexpr std::string_view kHeading = "heading ";
+  name = name.substr(0, name.find(','));
   if (name.size() != kHeading.size() + 1) return 0;
   for (std::size_t i = 0; i < kHeading.size(); ++i) {
     if (std::tolower(static_cast<unsigned char>(name[i])) != kHeading[i]) return 0;
@@ -51,7 +54,8 @@ int FontTable::NameCodePage() const { return codePage_ == kSymbolCodePage ? 0 : 
 
 void FontTable::AddText(std::string_view text) {
   ForEachEntry(
-      text, [this](std::string_view piece) { name_ += piece; }, [this] { Finish(); });
+      text, [this](std::string_view piece) { AppendLimited(name_, piece, kMostNameBytes); },
+      [this] { Finish(); });
 }
 
 void FontTable::Finish() {
@@ -109,7 +113,8 @@ void StyleSheet::BeginOtherStyle() { BeginParagraphStyle(kAbsent); }
 
 void StyleSheet::AddText(std::string_view text) {
   ForEachEntry(
-      text, [this](std::string_view piece) { name_ += piece; }, [this] { Finish(); });
+      text, [this](std::string_view piece) { AppendLimited(name_, piece, kMostNameBytes); },
+      [this] { Finish(); });
 }
 
 void StyleSheet::Finish() {

@@ -20,6 +20,7 @@ enum class Destination : std::uint8_t {
   kOldList,
   kPicture,
   kInstruction,  ///< Of the field in `GroupState::instruction`.
+  kListText,     ///< Kept in case the paragraph's list is not known.
   kCapture,      ///< Kept for the end of the group.
 };
 
@@ -34,6 +35,8 @@ enum class GroupEnd : std::uint8_t {
   kPropertyName,
   kPropertyValue,
   kPicture,
+  kShape,
+  kObject,
   kNote,
   kTextBox,
   kOldList,

@@ -13,7 +13,7 @@ constexpr std::string_view kStyleSheet =
     "ul,ol{margin:0;padding-left:36pt}\r\n"
     "sup,sub{line-height:0}\r\n"
     "table{border-collapse:collapse}\r\n"
-    "td,th{padding:0 5.4pt;text-align:left;vertical-align:top;font-weight:normal}\r\n"
+    "td{padding:0 5.4pt;text-align:left;vertical-align:top;font-weight:normal}\r\n"
     ".left-out{color:#666;border:1px dashed #999}\r\n";
 
 bool IsBlank(std::string_view text) {
@@ -61,16 +61,18 @@ void HtmlWriter::End() {
   std::string markup = body_.Take();
   notes_.AppendSection(markup);
   styles_.ChoosePageFont();
+  std::string rules;
+  const StartTags tags{styles_.StartTags(rules), targets_.StartTags()};
   std::string& html = page_.html;
   html.reserve(markup.size() + kStyleSheet.size() * 2);
-  AppendHead(html);
+  AppendHead(html, rules);
   html += "<body>\r\n";
-  AppendResolved(html, markup, {styles_.StartTags(), targets_.StartTags()});
+  AppendResolved(html, markup, tags);
   html += "</body>\r\n</html>\r\n";
   page_.pictures = pictures_.TakeFiles();
 }
 
-void HtmlWriter::AppendHead(std::string& html) {
+void HtmlWriter::AppendHead(std::string& html, std::string_view rules) {
   html += "<!DOCTYPE html>\r\n<html>\r\n<head>\r\n<meta charset=\"utf-8\">\r\n";
   if (!options_.generator.empty()) {
     html += "<meta name=\"generator\" content=\"";
@@ -83,6 +85,7 @@ void HtmlWriter::AppendHead(std::string& html) {
   html += styles_.PageFont();
   html += "}\r\n";
   html += kStyleSheet;
+  html += rules;
   html += "</style>\r\n</head>\r\n";
 }
 

@@ -40,7 +40,7 @@ class HtmlWriter final : public DocumentSink {
 
  private:
   Flow& Current() { return note_ ? *note_ : body_; }
-  void AppendHead(std::string& html);
+  void AppendHead(std::string& html, std::string_view rules);
   std::string_view Title() const;
 
   PageOptions options_;

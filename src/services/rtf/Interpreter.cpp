@@ -18,6 +18,12 @@ constexpr char32_t kPrivateSigns = 0xF000;
 constexpr char32_t kReplacement = 0xFFFD;
 constexpr int kMostTwips = 100'000;
 
+constexpr bool IsEscaped(char symbol) { return symbol == '\\' || symbol == '{' || symbol == '}'; }
+
+// Control characters that part words.
+constexpr bool IsLineBreak(char32_t value) { return value == 10 || value == 11 || value == 13; }
+constexpr bool IsSeparator(char32_t value) { return value == '\t' || IsLineBreak(value); }
+
 constexpr bool IsHighSurrogate(char32_t value) { return value >= 0xD800 && value < 0xDC00; }
 constexpr bool IsLowSurrogate(char32_t value) { return value >= 0xDC00 && value < 0xE000; }
 
@@ -84,6 +90,9 @@ void Interpreter::OnToken(const Token& token) {
       return;
     case TokenKind::kHexByte:
       return OnByte(static_cast<unsigned char>(token.parameter));
+    case TokenKind::kSymbol:
+      if (IsEscaped(token.text[0])) return OnText(token.text);
+      break;
     default:
       break;
   }
@@ -122,6 +131,10 @@ void Interpreter::OnText(std::string_view text) {
 
 void Interpreter::OnByte(unsigned char byte) {
   if (State().destination == Destination::kSkipped) return;
+  if (IsSeparator(byte)) {
+    FlushBytes();
+    return PutCharacter(byte);
+  }
   const SymbolSet symbols = Symbols();
   if (symbols != SymbolSet::kNone) return PutSign(symbols, byte, kPrivateSigns + byte);
   FlushSurrogate();
@@ -146,10 +159,6 @@ void Interpreter::OnSymbol(char symbol) {
     case '*':
       isStarred_ = true;
       return;
-    case '\\':
-    case '{':
-    case '}':
-      return OnText(std::string_view(&symbol, 1));
     case '~':
       return PutCharacter(0x00A0);
     case '-':
@@ -183,6 +192,10 @@ void Interpreter::OnGroupStart() {
 void Interpreter::OnGroupEnd() {
   isStarred_ = false;
   if (uncountedGroups_ > 0) {
+    if (uncountedGroups_ == skippedFrom_) {
+      State().destination = unskipped_;
+      skippedFrom_ = 0;
+    }
     --uncountedGroups_;
   } else if (groups_.size() == kOutermost) {
     isDone_ = true;
@@ -219,6 +232,10 @@ void Interpreter::EndGroup(const GroupState& closed) {
       return EndPropertyValue();
     case GroupEnd::kPicture:
       return EndPicture();
+    case GroupEnd::kShape:
+      return EndShape();
+    case GroupEnd::kObject:
+      return EndObject();
     case GroupEnd::kNote:
       return body.EndNote(FormatOf(closed), State().characters);
     case GroupEnd::kTextBox:
@@ -241,8 +258,13 @@ bool Interpreter::IsShowing() const {
   return !state.isHidden && !state.isDeleted && !state.isHiddenInPages;
 }
 
+bool Interpreter::CanEnterDestination() const {
+  return uncountedGroups_ == 0 && groups_.size() > kOutermost &&
+         groups_.back().end == GroupEnd::kNothing;
+}
+
 bool Interpreter::EnterDestination(Destination destination, GroupEnd end) {
-  if (uncountedGroups_ > 0 || groups_.size() <= kOutermost || State().end != GroupEnd::kNothing) {
+  if (!CanEnterDestination()) {
     SkipGroup();
     return false;
   }
@@ -257,7 +279,12 @@ void Interpreter::EnterCapture(GroupEnd end) {
 
 // The document itself is never skipped.
 void Interpreter::SkipGroup() {
-  if (groups_.size() > kOutermost) State().destination = Destination::kSkipped;
+  if (groups_.size() <= kOutermost || State().destination == Destination::kSkipped) return;
+  if (uncountedGroups_ > 0) {
+    skippedFrom_ = uncountedGroups_;
+    unskipped_ = State().destination;
+  }
+  State().destination = Destination::kSkipped;
 }
 
 void Interpreter::PutText(std::string_view text) {
@@ -276,6 +303,8 @@ void Interpreter::PutText(std::string_view text) {
     case Destination::kInstruction:
       fields_[static_cast<std::size_t>(State().instruction)].instruction += text;
       return;
+    case Destination::kListText:
+      return body.AddListText(text, State().characters);
     case Destination::kCapture:
       captured_ += text;
       return;
@@ -286,6 +315,8 @@ void Interpreter::PutText(std::string_view text) {
 
 void Interpreter::PutCharacter(char32_t codePoint) {
   FlushSurrogate();
+  if (IsLineBreak(codePoint)) return PutMark(RunKind::kLineBreak);
+  if (codePoint == '\t') return PutMark(RunKind::kTab);
   if (!IsTextCharacter(codePoint)) return;
   std::string text;
   AppendUtf8(text, codePoint);
@@ -347,7 +378,9 @@ int Interpreter::CodePage() const {
 
 SymbolSet Interpreter::Symbols() const {
   const GroupState& state = groups_.back();
-  if (state.destination != Destination::kBody) return SymbolSet::kNone;
+  const bool isShown =
+      state.destination == Destination::kBody || state.destination == Destination::kListText;
+  if (!isShown) return SymbolSet::kNone;
   return fonts.At(state.characters.font).symbols;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -59,6 +60,10 @@ class Interpreter {
   void BeginInstruction();
   void BeginResult();
   void BeginPicture();
+  void BeginShape();
+  void BeginObject();
+  /// Something stands for the object that is open.
+  void SetObjectShown() { isObjectShown_ = true; }
   void BeginNote();
   void BeginBox();
 
@@ -74,6 +79,12 @@ class Interpreter {
     std::string instruction;
     int link = kAbsent;
     bool isAnswered = false;  ///< Whether the result is to be left out.
+  };
+
+  // A shape's picture waits for its description.
+  struct Shape {
+    std::optional<Picture> picture;
+    std::string description;
   };
 
   bool IsFallback(Token& token);
@@ -100,6 +111,12 @@ class Interpreter {
   void EndInstruction(Field& field);
   void EndPropertyValue();
   void EndPicture();
+  void TellPicture(Picture&& told);
+  void TellShape(Shape& shape);
+  void EndShape();
+  void EndObject();
+
+  bool CanEnterDestination() const;
 
   DocumentSink& sink_;
   Tokenizer tokens_;
@@ -107,8 +124,11 @@ class Interpreter {
   std::vector<GroupState> groups_;
   std::vector<Field> fields_;
   std::string captured_;
+  std::vector<Shape> shapes_;
   std::string description_;
   std::size_t uncountedGroups_ = 0;
+  std::size_t skippedFrom_ = 0;  ///< The uncounted group that is skipped; 0 if none is.
+  Destination unskipped_ = Destination::kBody;  ///< The destination around it.
   char32_t highSurrogate_ = 0;
   int fallbackLeft_ = 0;
   int documentCodePage_;
@@ -118,6 +138,7 @@ class Interpreter {
   bool isStarred_ = false;
   bool isPictureOpen_ = false;
   bool isDescription_ = false;
+  bool isObjectShown_ = false;
   bool hasTitle_ = false;
   bool isDone_ = false;
 };

@@ -61,8 +61,13 @@ void Interpreter::BeginResult() {
 }
 
 void Interpreter::EndPropertyValue() {
-  if (isDescription_) description_ = std::exchange(captured_, {});
-  isDescription_ = false;
+  const bool isDescription = std::exchange(isDescription_, false);
+  if (!isDescription) return;
+  if (isPictureOpen_) {
+    description_ = captured_;
+  } else if (!shapes_.empty()) {
+    shapes_.back().description = captured_;
+  }
 }
 
 // In a shape, the picture is the value of a property.
@@ -73,15 +78,55 @@ void Interpreter::BeginPicture() {
   if (!EnterDestination(Destination::kPicture, GroupEnd::kPicture)) return;
   isPictureOpen_ = true;
   picture = {};
+  description_.clear();
 }
 
 void Interpreter::EndPicture() {
   isPictureOpen_ = false;
-  const std::string description = std::exchange(description_, {});
-  if (!picture.IsWhole()) return;
+  Picture ended = picture.Take(description_);
+  if (State().destination != Destination::kCapture || shapes_.empty()) {
+    return TellPicture(std::move(ended));
+  }
+  TellShape(shapes_.back());
+  shapes_.back().picture = std::move(ended);
+}
+
+void Interpreter::TellPicture(Picture&& told) {
   const int number = pictures_++;
-  sink_.AddPicture(number, picture.Take(description));
+  isObjectShown_ = true;
+  sink_.AddPicture(number, std::move(told));
   body.AddMark(RunKind::kPicture, State().characters, number);
+}
+
+void Interpreter::TellShape(Shape& shape) {
+  if (!shape.picture) return;
+  if (shape.picture->description.empty()) shape.picture->description = shape.description;
+  TellPicture(std::move(*shape.picture));
+}
+
+// What stands beside the text and the pictures of a shape describes it.
+void Interpreter::BeginShape() {
+  const Destination around = State().destination;
+  if (around != Destination::kBody && around != Destination::kNowhere) return SkipGroup();
+  if (EnterDestination(Destination::kNowhere, GroupEnd::kShape)) shapes_.emplace_back();
+}
+
+void Interpreter::EndShape() {
+  TellShape(shapes_.back());
+  shapes_.pop_back();
+}
+
+void Interpreter::BeginObject() {
+  const bool isShown = State().destination == Destination::kBody && IsShowing();
+  if (!isShown || !CanEnterDestination()) return;
+  State().end = GroupEnd::kObject;
+  isObjectShown_ = false;
+}
+
+// An object that stands in another one's result is shown in any case.
+void Interpreter::EndObject() {
+  if (isObjectShown_) return;
+  TellPicture({.kind = "object", .bytes = {}, .description = {}});
 }
 
 void Interpreter::BeginNote() {

@@ -83,6 +83,13 @@ void SetUnmarked(Interpreter& interpreter, const Control&) {
   ListOf(interpreter, none).isUnmarked = true;
 }
 
+// The item's mark as text, for readers that know nothing of lists.
+void EnterListText(Interpreter& interpreter, const Control&) {
+  const bool isInBody = interpreter.State().destination == Destination::kBody;
+  if (!isInBody || !interpreter.IsShowing()) return interpreter.SkipGroup();
+  interpreter.EnterDestination(Destination::kListText);
+}
+
 constexpr int ValueOf(Numbering numbering) { return static_cast<int>(numbering); }
 
 constexpr ControlWord kWords[] = {
@@ -109,6 +116,8 @@ constexpr ControlWord kWords[] = {
     {"pnucltr", SetOldNumbering, ValueOf(Numbering::kUpperLetter)},
     {"pnlcltr", SetOldNumbering, ValueOf(Numbering::kLowerLetter)},
     {"pnstart", SetOldStart},
+    {"listtext", EnterListText},
+    {"pntext", EnterListText},
 };
 
 }  // namespace

@@ -43,10 +43,6 @@ void PictureBuilder::AddBinary(std::string_view bytes) {
   if (picture_.type != PictureType::kOther) picture_.bytes += bytes;
 }
 
-bool PictureBuilder::IsWhole() const {
-  return picture_.type == PictureType::kOther || !picture_.bytes.empty();
-}
-
 int PictureBuilder::LengthOnPage(const Length& length) const {
   std::int64_t twips = std::max(0, length.goal);
   if (twips == 0) twips = std::max(0, length.own) * kTwipsPerInch / unitsPerInch_;
@@ -58,6 +54,10 @@ Picture PictureBuilder::Take(std::string_view description) {
   picture_.width = LengthOnPage(width_);
   picture_.height = LengthOnPage(height_);
   picture_.description = description;
+  if (picture_.type != PictureType::kOther && picture_.bytes.empty()) {
+    picture_.type = PictureType::kOther;
+    picture_.kind = "empty picture";
+  }
   return std::move(picture_);
 }
 

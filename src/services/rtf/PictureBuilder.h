@@ -26,8 +26,7 @@ class PictureBuilder {
   void AddHex(std::string_view digits);
   void AddBinary(std::string_view bytes);
 
-  /// Whether there is a picture to tell: the bytes of one that has them did come.
-  bool IsWhole() const;
+  /// The picture; one that is left out if its bytes did not come.
   Picture Take(std::string_view description);
 
  private:

@@ -49,14 +49,10 @@ void SetLength(Interpreter& interpreter, const Control& control) {
   (interpreter.picture.*kSet)(static_cast<PictureLength>(control.value), control.parameter);
 }
 
-// What stands beside the text and the pictures of a shape describes it.
-void EnterShape(Interpreter& interpreter, const Control&) {
-  const Destination around = interpreter.State().destination;
-  if (around != Destination::kBody && around != Destination::kNowhere) {
-    return interpreter.SkipGroup();
-  }
-  interpreter.EnterDestination(Destination::kNowhere);
-}
+void EnterShape(Interpreter& interpreter, const Control&) { interpreter.BeginShape(); }
+
+void EnterObject(Interpreter& interpreter, const Control&) { interpreter.BeginObject(); }
+void EnterObjectResult(Interpreter& interpreter, const Control&) { interpreter.SetObjectShown(); }
 
 void EnterBox(Interpreter& interpreter, const Control&) { interpreter.BeginBox(); }
 
@@ -87,6 +83,8 @@ constexpr ControlWord kWords[] = {
     {"pichgoal", SetLength<&PictureBuilder::SetGoal>, kHeight},
     {"picscalex", SetLength<&PictureBuilder::SetScale>, kWidth},
     {"picscaley", SetLength<&PictureBuilder::SetScale>, kHeight},
+    {"object", EnterObject},
+    {"result", EnterObjectResult},
     {"shpinst", EnterShape},
     {"shpgrp", EnterShape},
     {"do", EnterShape},

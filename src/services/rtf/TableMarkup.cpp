@@ -68,7 +68,7 @@ class TableMarkup {
     out_ += "<tr>\r\n";
     if (row.begin > 0) AppendGap(row.begin);
     for (std::size_t i = 0; i < row.cellCount; ++i) {
-      AppendCell(layout_.CellAt(row.firstCell + i), row.isHeader ? "th" : "td");
+      AppendCell(layout_.CellAt(row.firstCell + i));
     }
     if (row.end < layout_.ColumnCount()) AppendGap(layout_.ColumnCount() - row.end);
     out_ += "</tr>\r\n";
@@ -80,21 +80,21 @@ class TableMarkup {
     out_ += "></td>\r\n";
   }
 
-  void AppendCell(const PlacedCell& cell, std::string_view name) {
-    out_ += '<';
-    out_ += name;
+  // Cells of the head are "td" too: a heading may not stand in a "th".
+  void AppendCell(const PlacedCell& cell) {
+    out_ += "<td";
     AppendSpan(out_, "colspan", cell.columns);
     AppendSpan(out_, "rowspan", cell.rows);
     if (cell.look != nullptr) out_ += cell.look->style;
     out_ += '>';
+    const std::size_t begin = out_.size();
     for (std::size_t piece = cell.firstPiece;; piece = layout_.NextPiece(piece)) {
       const BufferedCell& buffered = table_.cells[piece];
       out_.append(table_.content, buffered.begin, buffered.end - buffered.begin);
       if (piece == cell.lastPiece) break;
     }
-    out_ += "</";
-    out_ += name;
-    out_ += ">\r\n";
+    if (out_.size() == begin) out_ += "&nbsp;";  // A row of empty cells keeps its height.
+    out_ += "</td>\r\n";
   }
 
   std::string& out_;

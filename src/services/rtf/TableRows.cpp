@@ -8,20 +8,62 @@ namespace {
 // Well above what word processors write; a bound for files that repeat a damaged row.
 constexpr std::size_t kMostCells = 256;
 
+constexpr CellSide kAllSides[] = {CellSide::kTop, CellSide::kRight, CellSide::kBottom,
+                                  CellSide::kLeft};
+
 std::size_t BitOf(int depth) { return static_cast<std::size_t>(depth); }
+std::size_t BitOf(CellSide side) { return static_cast<std::size_t>(side); }
 
 }  // namespace
 
+// Each cell is taken for the row's last one until the next one comes.
 void RowBuilder::EndCellFormat(int rightEdge) {
   cell_.rightEdge = rightEdge;
-  if (format_.cells.size() < kMostCells) format_.cells.push_back(cell_);
+  for (const CellSide side : kAllSides) {
+    if (!namedSides_[BitOf(side)]) cell_.borders[BitOf(side)] = RowBorderOf(side);
+  }
+  if (format_.cells.size() < kMostCells) {
+    if (!isLastRightNamed_) {
+      format_.cells.back().borders[BitOf(CellSide::kRight)] = RowBorder(RowSide::kBetween);
+    }
+    format_.cells.push_back(cell_);
+    isLastRightNamed_ = namedSides_[BitOf(CellSide::kRight)];
+  }
   cell_ = {};
+  namedSides_.reset();
   SelectNoBorder();
+}
+
+// A row does not know whether it is the table's first or last one.
+const Border& RowBuilder::RowBorderOf(CellSide side) const {
+  const bool hasBelow = RowBorder(RowSide::kBelow).isThere;
+  switch (side) {
+    case CellSide::kTop:
+      return RowBorder(hasBelow ? RowSide::kBelow : RowSide::kTop);
+    case CellSide::kBottom:
+      return RowBorder(hasBelow ? RowSide::kBelow : RowSide::kBottom);
+    case CellSide::kLeft:
+      return RowBorder(format_.cells.empty() ? RowSide::kLeft : RowSide::kBetween);
+    default:
+      return RowBorder(RowSide::kRight);
+  }
 }
 
 void RowBuilder::SelectBorder(CellSide side) {
   border_ = static_cast<int>(side);
+  namedSides_.set(BitOf(side));
   *SelectedBorder() = {.isThere = true};
+}
+
+void RowBuilder::SelectRowBorder(RowSide side) {
+  border_ = kCellSides + static_cast<int>(side);
+  *SelectedBorder() = {.isThere = true};
+}
+
+Border* RowBuilder::SelectedBorder() {
+  if (border_ == kAbsent) return nullptr;
+  const auto index = static_cast<std::size_t>(border_);
+  return border_ < kCellSides ? &cell_.borders[index] : &borders_[index - kCellSides];
 }
 
 int TableTracker::Limited(int depth) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <bitset>
 #include <cstddef>
 
@@ -12,6 +13,10 @@ constexpr int kDeepestTable = 20;
 
 enum class CellSide { kTop, kRight, kBottom, kLeft };
 
+/// The borders of a row for cells that name none. `kBelow` and `kBetween` are those between rows
+/// and between cells.
+enum class RowSide { kTop, kRight, kBottom, kLeft, kBelow, kBetween };
+
 /// A row's definition, from \trowd on, as its words bring it.
 class RowBuilder {
  public:
@@ -22,16 +27,25 @@ class RowBuilder {
 
   /// Makes a side of the cell the one that `Border` speaks of.
   void SelectBorder(CellSide side);
-  /// The border that words on borders are about; null if it is none of a cell.
-  Border* SelectedBorder() { return border_ == kAbsent ? nullptr : &cell_.borders[Index()]; }
+  /// Makes a side of the row that one.
+  void SelectRowBorder(RowSide side);
+  /// The border that words on borders are about; null if it is none of a cell or a row.
+  Border* SelectedBorder();
   void SelectNoBorder() { border_ = kAbsent; }
 
  private:
-  std::size_t Index() const { return static_cast<std::size_t>(border_); }
+  static constexpr int kCellSides = 4;
+  static constexpr int kRowSides = 6;
+
+  const Border& RowBorder(RowSide side) const { return borders_[static_cast<std::size_t>(side)]; }
+  const Border& RowBorderOf(CellSide side) const;
 
   RowFormat format_;
   CellFormat cell_;
-  int border_ = kAbsent;
+  std::array<Border, kRowSides> borders_;
+  std::bitset<kCellSides> namedSides_;  ///< Of `cell_`.
+  bool isLastRightNamed_ = true;  ///< Whether the last cell in `format_` names its right side.
+  int border_ = kAbsent;          ///< A `CellSide`, or `kCellSides` and a `RowSide`.
 };
 
 /// Ends cells and rows at the sink, and those that a damaged file leaves open. Depths are as the

@@ -53,6 +53,10 @@ void SelectBorder(Interpreter& interpreter, const Control& control) {
   Row(interpreter).SelectBorder(static_cast<CellSide>(control.value));
 }
 
+void SelectRowBorder(Interpreter& interpreter, const Control& control) {
+  Row(interpreter).SelectRowBorder(static_cast<RowSide>(control.value));
+}
+
 void SelectNoBorder(Interpreter& interpreter, const Control&) { Row(interpreter).SelectNoBorder(); }
 
 void SetBorder(Interpreter& interpreter, const Control& control) {
@@ -120,13 +124,13 @@ constexpr ControlWord kWords[] = {
     {"clbrdrr", SelectBorder, ValueOf(CellSide::kRight)},
     {"clbrdrb", SelectBorder, ValueOf(CellSide::kBottom)},
     {"clbrdrl", SelectBorder, ValueOf(CellSide::kLeft)},
-    // Borders of rows, paragraphs, pages and texts, and lines across a cell.
-    {"trbrdrt", SelectNoBorder},
-    {"trbrdrr", SelectNoBorder},
-    {"trbrdrb", SelectNoBorder},
-    {"trbrdrl", SelectNoBorder},
-    {"trbrdrh", SelectNoBorder},
-    {"trbrdrv", SelectNoBorder},
+    {"trbrdrt", SelectRowBorder, ValueOf(RowSide::kTop)},
+    {"trbrdrr", SelectRowBorder, ValueOf(RowSide::kRight)},
+    {"trbrdrb", SelectRowBorder, ValueOf(RowSide::kBottom)},
+    {"trbrdrl", SelectRowBorder, ValueOf(RowSide::kLeft)},
+    {"trbrdrh", SelectRowBorder, ValueOf(RowSide::kBelow)},
+    {"trbrdrv", SelectRowBorder, ValueOf(RowSide::kBetween)},
+    // Borders of paragraphs, pages and texts, and lines across a cell.
     {"brdrt", SelectNoBorder},
     {"brdrr", SelectNoBorder},
     {"brdrb", SelectNoBorder},

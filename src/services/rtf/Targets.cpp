@@ -10,7 +10,11 @@
 namespace tagsmith::rtf {
 namespace {
 
-constexpr std::array<std::string_view, 5> kSchemes = {"http", "https", "mailto", "ftp", "file"};
+constexpr std::array<std::string_view, 8> kSchemes = {"http", "https", "mailto", "ftp",
+                                                      "file", "tel",   "sms",    "news"};
+// Browsers and servers pass on no longer ones; and a link over many paragraphs is written in each.
+constexpr std::size_t kLongestAddress = 2048;
+
 constexpr std::string_view kNotInAddresses = " \"<>\\^`{|}";
 
 bool IsLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
@@ -81,10 +85,10 @@ void Targets::AddLink(int number, std::string_view target) {
   Link link;
   if (target.starts_with('#')) {
     link.bookmark = target.substr(1);
-    if (link.bookmark.empty()) return;
+    if (link.bookmark.empty() || link.bookmark.size() > kLongestAddress) return;
   } else {
     link.address = SafeAddress(target);
-    if (link.address.empty()) return;
+    if (link.address.empty() || link.address.size() > kLongestAddress) return;
   }
   numbers_[number] = static_cast<std::uint32_t>(links_.size());
   links_.push_back(std::move(link));

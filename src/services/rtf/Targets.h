@@ -10,14 +10,16 @@
 
 namespace tagsmith::rtf {
 
-/// The address that a page may carry for a link's target (RFC 3986): http, https, mailto, ftp, file
-/// and relative ones, characters that an address cannot hold percent-encoded; a path with a drive
-/// or a server's name becomes a file address. Empty for all others, scripts among them.
+/// The address that a page may carry for a link's target (RFC 3986): http, https, mailto, ftp,
+/// file, tel, sms, news and relative ones, characters that an address cannot hold percent-encoded;
+/// a path with a drive or a server's name becomes a file address. Empty for all others, scripts
+/// among them.
 std::string SafeAddress(std::string_view target);
 
 /// The links of a document and the bookmarks that they lead to.
 class Targets {
  public:
+  /// A link whose address is over 2,048 bytes long leads nowhere.
   void AddLink(int number, std::string_view target);
 
   /// Which of `StartTags` begins link `number`; nothing for one that leads nowhere.

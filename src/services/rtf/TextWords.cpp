@@ -56,6 +56,11 @@ void BreakPage(Interpreter& interpreter, const Control&) {
   interpreter.body.BreakPage();
 }
 
+// Columns come below each other.
+void BreakColumn(Interpreter& interpreter, const Control&) {
+  if (IsInBody(interpreter)) interpreter.EndStartedParagraph();
+}
+
 void BreakSection(Interpreter& interpreter, const Control&) {
   if (!IsInBody(interpreter)) return;
   interpreter.EndStartedParagraph();
@@ -83,6 +88,7 @@ constexpr ControlWord kWords[] = {
     {"line", PutMark, kLineBreak},
     {"lbr", PutMark, kLineBreak},
     {"page", BreakPage},
+    {"column", BreakColumn},
     {"sect", BreakSection},
     {"sbknone", KeepSectionOnPage},
     {"sbkcol", KeepSectionOnPage},

@@ -118,10 +118,12 @@ void Tokenizer::ReadParameter(Token& token) {
   token.hasParameter = true;
 }
 
+// A count that leads past the end of the file is damage: what follows is read as usual.
 void Tokenizer::ReadBinary(Token& token) {
   const auto wanted = static_cast<std::size_t>(std::max(0, token.parameter));
+  const bool isThere = wanted <= rtf_.size() - position_;
   token.kind = TokenKind::kBinary;
-  token.text = rtf_.substr(position_, wanted);
+  token.text = rtf_.substr(position_, isThere ? wanted : 0);
   position_ += token.text.size();
 }
 

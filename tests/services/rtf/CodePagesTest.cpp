@@ -26,6 +26,8 @@ TEST(CodePages, GiveTheCharactersOfTheirBytes) {
 TEST(CodePages, BelongToCharacterSets) {
   EXPECT_EQ(CodePageOfCharset(204), 1251);
   EXPECT_EQ(CodePageOfCharset(128), 932);
+  EXPECT_EQ(CodePageOfCharset(78), 932);
+  EXPECT_EQ(CodePageOfCharset(89), 10007);
   EXPECT_EQ(CodePageOfCharset(1), 0);
   EXPECT_EQ(CodePageOfCharset(-5), 0);
   EXPECT_TRUE(IsMultiByte(950));

@@ -246,10 +246,18 @@ TEST(HtmlWriterTables, HeadBordersAndShading) {
   script.Cell("a").Cell("b").Row(row);
   script.Cell("c").Row(RowOf({CellTo(1000, Merge::kNone, Merge::kContinued)}));
   EXPECT_EQ(BareTable(script),
-            "<thead>\n<tr>\n<th style=\"border:1pt solid #ff0000\"><p>a</p>\n</th>\n"
-            "<th style=\"border-bottom:0.75pt solid;background-color:#dddddd;"
-            "vertical-align:middle\"><p>b</p>\n</th>\n</tr>\n</thead>\n"
+            "<thead>\n<tr>\n<td style=\"border:1pt solid #ff0000\"><p>a</p>\n</td>\n"
+            "<td style=\"border-bottom:0.75pt solid;background-color:#dddddd;"
+            "vertical-align:middle\"><p>b</p>\n</td>\n</tr>\n</thead>\n"
             "<tr>\n<td><p>c</p>\n</td>\n<td></td>\n</tr>\n</table>\n");
+}
+
+TEST(HtmlWriterTables, EmptyCellsKeepTheHeightOfTheirRow) {
+  Script script;
+  script.Writer().EndCell(1);
+  script.Writer().EndCell(1);
+  script.Row(RowOf({CellTo(1000), CellTo(2000)}));
+  EXPECT_EQ(BareTable(script), "<tr>\n<td>&nbsp;</td>\n<td>&nbsp;</td>\n</tr>\n</table>\n");
 }
 
 TEST(HtmlWriterTables, NestedOnesStandInTheirCell) {
@@ -298,6 +306,7 @@ TEST(HtmlWriterLinks, LeadWhereTheyMayAndToBookmarksThatAreThere) {
       {"C:\\my docs\\a.rtf", "file:///C:/my%20docs/a.rtf"},
       {"\\\\server\\share", "file://server/share"},
       {"\xC3\xA9.html", "%C3%A9.html"},
+      {"tel:+49-1", "tel:+49-1"},
       {"#here", "#here"},
       {"#not here", ""},
       {" java\tscript:alert(1)", ""},
@@ -319,6 +328,35 @@ TEST(HtmlWriterLinks, LeadWhereTheyMayAndToBookmarksThatAreThere) {
               "<p><span id=\"here\"></span><span id=\"b_1_two\"></span>" + link + "</p>\n")
         << target;
   }
+}
+
+TEST(HtmlWriterLinks, LongOnesDoNotMakeThePageFarLargerThanItsText) {
+  Script script;
+  script.Writer().AddLink(0, std::string(2048, 'x'));
+  script.Writer().AddLink(1, std::string(2049, 'x'));
+  script.Writer().AddLink(2, '#' + std::string(2049, 'x'));
+  script.Text("a", {.link = 0}).Text("b", {.link = 1}).Text("c", {.link = 2}).Par();
+  for (int i = 0; i < 5000; ++i) script.Text("d", {.link = 0}).Par();
+  const std::string body = script.Body();
+  const std::string link = "<a href=\"" + std::string(2048, 'x') + "\">";
+  EXPECT_EQ(body.find("<p>" + link + "a</a>bc</p>\n<p>" + link + "d</a></p>"), 0U);
+  EXPECT_TRUE(body.ends_with("<p>d</p>\n<p>d</p>\n"));
+  EXPECT_LT(body.size(), 5000U * 800);
+}
+
+TEST(HtmlWriterText, LongStylesStandOnceInTheStyleSheet) {
+  Script script;
+  const std::string name(255, 'n');
+  script.Writer().AddFont(0, name, "");
+  script.Writer().AddFont(1, name + 'n', "serif");
+  script.Text("most").Text("a", {.font = 0}).Text("b").Text("c", {.font = 0});
+  script.Text("d", {.font = 1});
+  const std::string html = script.Par().Page().html;
+  EXPECT_NE(html.find("\r\n.s2{font-family:'" + name + "'}\r\n</style>"), std::string::npos);
+  EXPECT_NE(html.find("most<span class=\"s2\">a</span>b<span class=\"s2\">c</span>"
+                      "<span style=\"font-family:serif\">d</span>"),
+            std::string::npos)
+      << html;
 }
 
 TEST(HtmlWriterNotes, StandAtTheEndWithLinksBothWays) {

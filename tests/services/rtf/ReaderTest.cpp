@@ -195,24 +195,28 @@ void Expect(const std::string& head, const std::vector<Case>& cases) {
 }
 
 TEST(RtfReader, BytesAndUnicodeBecomeTheSameText) {
-  Expect("", {
-                 {R"(caf\'e9 \'80\\\{\})", "p:caf\u00E9 \u20AC\\{}\n"},
-                 {"raw \xE9", "p:raw \u00E9\n"},
-                 {R"(\mac\'8e)", "p:\u00E9\n"},
-                 {R"(\ansicpg1251\'c6)", "p:\u0416\n"},
-                 {R"(\u1046?\u1046 ?x)", "p:\u0416\u0416x\n"},
-                 {R"(\uc0\u1046 ?{\uc2\u1046 ab}\u1046 c)", "p:\u0416?\u0416\u0416c\n"},
-                 {R"(\uc2\u1046\'93\'fax\u1046 a{b})", "p:\u0416x\u0416b\n"},
-                 {"\\u1046\\bin3 }}}x\\u1046\\emdash y", "p:\u0416x\u0416y\n"},
-                 {R"(\u-10179?\u-8704?\u-10179?x\u-8704?)", "p:\U0001F600\uFFFDx\uFFFD\n"},
-                 {R"(a\~b\-c\_d\emdash\lquote x\rquote\|\:)",
-                  "p:a\u00A0b\u00ADc\u2011d\u2014\u2018x\u2019\n"},
-                 {"a\\tab b\\line c\td\\\ne\r\nf", "p:a<tab>b<line>c<tab>d\np:ef\n"},
-                 {R"(\ansicpg932\'93\'fa\'83A b\b\'93\b0\'fa)",
-                  "p:<932 147 250 131 65> b[b]<932 147>[]<932 250>\n"},
-                 {"\\ansicpg65001 \xC3\xA4\\'c3\\'a4\\'c3", "p:\u00E4\u00E4\uFFFD\n"},
-                 {R"(a\'zz\'4)", "p:azz4\n"},
-             });
+  Expect("",
+         {
+             {R"(caf\'e9 \'80\\\{\})", "p:caf\u00E9 \u20AC\\{}\n"},
+             {"raw \xE9", "p:raw \u00E9\n"},
+             {R"(\mac\'8e)", "p:\u00E9\n"},
+             {R"(\ansicpg1251\'c6)", "p:\u0416\n"},
+             {R"(\u1046?\u1046 ?x)", "p:\u0416\u0416x\n"},
+             {R"(\uc0\u1046 ?{\uc2\u1046 ab}\u1046 c)", "p:\u0416?\u0416\u0416c\n"},
+             {R"(\uc2\u1046\'93\'fax\u1046 a{b})", "p:\u0416x\u0416b\n"},
+             {"\\u1046\\bin3 }}}x\\u1046\\emdash y", "p:\u0416x\u0416y\n"},
+             {R"(\u-10179?\u-8704?\u-10179?x\u-8704?)", "p:\U0001F600\uFFFDx\uFFFD\n"},
+             {R"(a\~b\-c\_d\emdash\lquote x\rquote\|\:)",
+              "p:a\u00A0b\u00ADc\u2011d\u2014\u2018x\u2019\n"},
+             {"a\\tab b\\line c\td\\\ne\r\nf", "p:a<tab>b<line>c<tab>d\np:ef\n"},
+             {R"(\ansicpg932\'93\'fa\'83A b\b\'93\b0\'fa)",
+              "p:<932 147 250 131 65> b[b]<932 147>[]<932 250>\n"},
+             {"\\ansicpg65001 \xC3\xA4\\'c3\\'a4\\'c3", "p:\u00E4\u00E4\uFFFD\n"},
+             {R"(a\'zz\'4)", "p:azz4\n"},
+             {R"(\ansicpg932 A\'83\\B\'83\{\'83\}\\)",
+              "p:A<932 131 92>B<932 131 123><932 131 125>\\\n"},
+             {R"(a\u9 ?b\'09c\u10 ?d\'0be\u13 ?f\u8 ?)", "p:a<tab>b<tab>c<line>d<line>e<line>f\n"},
+         });
 }
 
 TEST(RtfReader, FontsBringTheirCharactersAndSigns) {
@@ -247,14 +251,15 @@ TEST(RtfReader, LooksAreThoseOfTheGroup) {
 TEST(RtfReader, ParagraphsHaveTheirFormat) {
   Expect(
       R"({\colortbl;\red1\green2\blue3;}{\stylesheet{Normal;}{\s1\b heading 1;})"
-      R"({\s2\outlinelevel1 Titre;}{\s3\sbasedon2 Mine;}{\*\cs4 Heading 3;}})",
+      R"({\s2\outlinelevel1 Titre;}{\s3\sbasedon2 Mine;}{\*\cs4 Heading 3;}{\s5 heading 2,H2;}})",
       {
           {R"(\qc\li720\ri10\fi-360\sb120\sa60\cbpat1 a\par\pard b)",
            "p align2 left720 right10 first-360 before120 after60 #010203:a\np:b\n"},
-          {R"(\s1 a\par\s2 b\par\s3 c\par\s4 d\par\pard\outlinelevel7 e\par\outlinelevel9 f)",
-           "p h1:a\np h2:b\np h2:c\np:d\np h6:e\np:f\n"},
+          {R"(\s1 a\par\s2 b\par\s3 c\par\s4 d\par\s5 e\par\pard\outlinelevel7 f\par\outlinelevel9 g)",
+           "p h1:a\np h2:b\np h2:c\np:d\np h2:e\np h6:f\np:g\n"},
           {R"(\rtlpar\qj a\par\ltrpar\pagebb\par)", "p align3 rtl1:a\np align3 page1:\n"},
           {R"(a\page b\par\sect\sectd\sbknone c\sect\sectd d)", "p:a\np page1:b\np:c\np page1:d\n"},
+          {R"(a\column b\par\column c)", "p:a\np:b\np:c\n"},
       });
 }
 
@@ -278,6 +283,9 @@ TEST(RtfReader, ListsCountWhereWordCounts) {
            "list4.0.-1:e\n"
            "p list4.1.A1:f\n"},
           {R"({\*\pn\pnlvlcont\ilvl0\ls0\pndec}a)", "p:a\n"},
+          // Lists that are not described keep their marks.
+          {R"({\listtext\b 3.\tab}\ls9 a\par{\pntext 4.\tab}\par{\listtext 5.}\cell b)",
+           "p:[b]3.<tab>[]a\np:4.<tab>\ncell1\nrow1\np:b\n"},
       });
 }
 
@@ -295,6 +303,11 @@ TEST(RtfReader, TablesStandInEachOther) {
               R"({\*\nesttableprops\trowd\cellx3\cellx5\nestrow}{\nonesttables\par})"
               R"(\pard\intbl\cell\row)",
               "p depth1:x\np depth2:a\ncell2\np depth2:b\ncell2\nrow2 3 5\ncell1\nrow1 9\n"},
+             // Borders of the row, for cells that name none.
+             {R"(\trowd\trbrdrt\brdrw1\trbrdrr\brdrw2\trbrdrb\brdrw3\trbrdrl\brdrw4\trbrdrv\brdrw5)"
+              R"(\clbrdrt\brdrnone\cellx1\clbrdrl\brdrw9\cellx2\intbl a\row)"
+              R"(\trowd\trbrdrh\brdrw6\clbrdrt\brdrw7\cellx1 b\row)",
+              "p depth1:a\ncell1\nrow1 1|5|3|4 2|1|2|3|9\np depth1:b\ncell1\nrow1 1|7|6\n"},
              // Left open, or with paragraphs that are not marked as its own.
              {R"(\intbl\itap3 a\par\pard b\cell c)",
               "p depth3:a\ncell3\nrow3\ncell2\nrow2\np depth1:b\ncell1\nrow1\np:c\n"},
@@ -308,7 +321,7 @@ TEST(RtfReader, FieldsBecomeLinks) {
       {
           {R"(a{\field{\*\fldinst{HYPERLINK "http://x/?a\\\\b" \\l "c d" \\o "tip"}}{\fldrslt\ul b}}c)",
            "p:a[u->http://x/?a\\b#c d]b[]c\n"},
-          {R"({\field{\*\fldinst HYPERLINK \\l top}{\fldrslt{b}}}{\*\bkmkstart top}x{\*\bkmkend top})",
+          {R"({\field{\*\fldinst HYPERLINK \\l top}{\fldrslt{b}}}{\*\bkmkstart top}x{\*\bkmkend top}\par{\*\bkmkstart end})",
            "p:[->#top]b<at top>[]x\n"},
           {R"({\field{\*\fldinst HYPERLINK "{\field{\fldinst REF y}{\fldrslt z}}"}{\fldrslt b}}c)",
            "p:[->z]b[]c\n"},
@@ -324,6 +337,8 @@ TEST(RtfReader, NotesAndBoxesComeBeforeTheirParagraph) {
          {
              {R"(a{\super\chftn{\footnote\pard\plain\chftn b\par c{\footnote d}}}e)",
               "note1\np:b\np:cd\nend\np:a<note1>e\n"},
+             {R"(a{\super\chftn{\footnote{\super\chftn}  {\b  b} c\par d}} e)",
+              "note1\np:[b]b[] c\np:d\nend\np:a<note1> e\n"},
              {R"(\trowd\cellx9\intbl a{\*\footnote\ftnalt{\trowd\intbl n\cell}}\cell\row)",
               "note1\np depth1:n\ncell1\nrow1\nend\np depth1:a<note1>\ncell1\nrow1 9\n"},
              {R"(\intbl a{\shp{\*\shpinst\shpleft1{\sp{\sn x}{\sv y}}{\shptxt\pard\intbl b\cell)"
@@ -333,19 +348,28 @@ TEST(RtfReader, NotesAndBoxesComeBeforeTheirParagraph) {
 }
 
 TEST(RtfReader, PicturesComeOnce) {
-  Expect("",
-         {
-             {"{\\*\\shppict{\\pict{\\*\\picprop{\\sp{\\sn wzDescription}{\\sv A cat}}}\\pngblip"
-              "\\picwgoal200\\pichgoal100\\picscalex50 41\n4 2}}{\\nonshppict{\\pict\\wmetafile8 "
-              "00}}",
-              "picture [AB] 100x100 A cat\np:<picture0>\n"},
-             {"{\\pict\\jpegblip\\picw96\\bin2 {}}{\\pict\\emfblip\\picw2540 41}",
-              "picture [{}] 1440x0 \npicture EMF[] 1440x0 \np:<picture0><picture1>\n"},
-             {R"({\object\objemb{\*\objdata 41}{\result{\pict\pngblip 41}}}{\v{\pict\pngblip 42}})",
-              "picture [A] 0x0 \np:<picture0>\n"},
-             {R"({\shp{\*\shpinst{\sp{\sn pib}{\sv{\pict\pngblip 41}}}}}{\pict\pngblip})",
-              "picture [A] 0x0 \np:<picture0>\n"},
-         });
+  Expect(
+      "",
+      {
+          {"{\\*\\shppict{\\pict{\\*\\picprop{\\sp{\\sn wzDescription}{\\sv A cat}}}\\pngblip"
+           "\\picwgoal200\\pichgoal100\\picscalex50 41\n4 2}}{\\nonshppict{\\pict\\wmetafile8 "
+           "00}}",
+           "picture [AB] 100x100 A cat\np:<picture0>\n"},
+          {"{\\pict\\jpegblip\\picw96\\bin2 {}}{\\pict\\emfblip\\picw2540 41}",
+           "picture [{}] 1440x0 \npicture EMF[] 1440x0 \np:<picture0><picture1>\n"},
+          {R"({\object\objemb{\*\objdata 41}{\result{\pict\pngblip 41}}}{\v{\pict\pngblip 42}})",
+           "picture [A] 0x0 \np:<picture0>\n"},
+          {R"({\shp{\*\shpinst{\sp{\sn pib}{\sv{\pict\pngblip 41}}}{\sp{\sn wzDescription})"
+           R"({\sv A cat}}}}\par{\pict\pngblip 42}{\sv{\pict\pngblip 43}})",
+           "picture [A] 0x0 A cat\np:<picture0>\npicture [B] 0x0 \npicture [C] 0x0 \n"
+           "p:<picture1><picture2>\n"},
+          {R"({\shpgrp{\sp{\sn wzDescription}{\sv All}}{\shp{\shpinst{\sp{\sn pib}{\sv)"
+           R"({\pict\pngblip 41}{\pict\pngblip 42}}}}}})",
+           "picture [A] 0x0 \npicture [B] 0x0 \np:<picture0><picture1>\n"},
+          {R"({\pict\pngblip}{\object{\*\objdata 41}}{\object{\result{\object 1}}}{\object{\result r}})",
+           "picture empty picture[] 0x0 \npicture object[] 0x0 \npicture object[] 0x0 \n"
+           "p:<picture0><picture1>1<picture2>r\n"},
+      });
 }
 
 TEST(RtfReader, HeadersStayOutAndTheTitleIsTold) {
@@ -385,6 +409,16 @@ TEST(RtfReader, DamagedFilesGiveWhatCanBeRead) {
   EXPECT_EQ(repeated("\\li99999999999\\fs-99999999999\\u99999999999 ?\\cf-1\\f-1\\itap-5 ", 2),
             "p left100000:[1]end\n");
   EXPECT_EQ(repeated("}", 3), "");
+  EXPECT_EQ(Told("{\\rtf1 a\\bin9 b}"), "p:ab\n");
+  EXPECT_EQ(Told("{\\rtf1 " + std::string(600, '{') + "a{\\*\\x b{c}d}e"), "p:ae\n");
+
+  // A name is kept to 255 bytes, and none of its characters is cut.
+  const std::string name(254, 'n');
+  Recorder recorder;
+  recorder.TellFonts();
+  ReadRtf("{\\rtf1{\\fonttbl{\\f0 " + name + "\\'e9\\'e9;}}{\\*\\bkmkstart " + name + "bb}a", {},
+          recorder);
+  EXPECT_EQ(recorder.Text(), "font " + name + ",\np:<at " + name + "b>[f0]a\n");
 }
 
 }  // namespace
