@@ -74,8 +74,8 @@ class Application {
   bool gIncludeIdAttribute = false;
   bool gIncludeHeightWidth = false;
   std::string gExportFormat;  ///< "EMenu", "IList", "UList" or "OList"; empty counts as "EMenu".
-  std::string gDateText;    ///< Empty after a cancel.
-  std::string gFileFilter;  ///< For the file dialogs of the main form.
+  std::string gDateText;      ///< Empty after a cancel.
+  std::string gFileFilter;    ///< For the file dialogs of the main form.
   std::string gBlockCommentSymbol;
   /// Where frmFind found its text last: 1 for the first byte of the document, 0 for nowhere. It
   /// outlives the form and takes no notice of edits.

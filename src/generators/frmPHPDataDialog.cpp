@@ -74,8 +74,7 @@ void frmPHPDataDialog::Bind() {
   const FileLists lists{*this, MyDrive, MyDirectory};
   onLoad = [this, lists] { OpenAtMainForm(application_, lists); };
   // The pages go where the list is open, not to what is selected in it.
-  ChainFileLists(application_, lists,
-                 [this] { MyDirectory.SetToolTipText(MyDirectory.Path()); });
+  ChainFileLists(application_, lists, [this] { MyDirectory.SetToolTipText(MyDirectory.Path()); });
   cmdLoad.onClick = [this] { cmdLoad_Click(); };
   cmdSave.onClick = [this] { cmdSave_Click(); };
   cmdCreate.onClick = [this] { cmdCreate_Click(); };
