@@ -21,7 +21,7 @@ beside() {
     fresh=$2
     shift 2
     echo "== $title"
-    hyperfine --shell sh --warmup 2 --runs "${RUNS:-20}" --export-json "$place/times.json" \
+    hyperfine --shell sh --warmup 1 --runs "${RUNS:-20}" --export-json "$place/times.json" \
         --style none --prepare "rm -rf work && cp -a $fresh work" "$@" >/dev/null
     python3 -B - "$place/times.json" <<'END'
 import json, sys
