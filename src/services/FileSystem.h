@@ -78,8 +78,10 @@ class FileSystem {
   virtual std::optional<std::string> ReadFile(std::string_view path, std::size_t limit) const = 0;
 
   /// Puts `bytes` in place of the file's contents, or makes the file. Either the old file or the
-  /// whole new one is there afterwards; permissions, owner, symbolic and hard links stay. Refuses
-  /// a file that the user may not write, also where the folder would allow it to be replaced.
+  /// whole new one is there afterwards, but for a file that cannot be replaced by another, as one
+  /// with several hard links: it is written in place. Permissions, owner, symbolic and hard links
+  /// stay. Refuses a file that the user may not write, also where the folder would allow it to be
+  /// replaced.
   virtual void WriteFile(std::string_view path, std::string_view bytes, Durability durability) = 0;
 
   /// Copies the file's bytes as `WriteFile` writes them. Replaces a file of the name `to`.
