@@ -8,7 +8,8 @@ root=$(cd "$(dirname "$0")" && pwd)
 # the program in a real window.
 # Generated pages run in a real browser, and on PHP with a real database.
 TEST_PACKAGES="xauth xvfb xdotool openbox x11-utils imagemagick debian-faq debian-policy git-doc sqlite3-doc
-    libjs-jquery libjs-bootstrap php-pear chromium python3 php-cli php-odbc libsqliteodbc tidy"
+    libjs-jquery libjs-bootstrap php-pear chromium python3 php-cli php-odbc libsqliteodbc tidy
+    desktop-file-utils libglib2.0-bin poppler-utils xdg-utils"
 
 install_packages $BUILD_PACKAGES $TEST_PACKAGES
 build release

@@ -2,7 +2,7 @@
 # Debian 12 that Tagsmith stands on, and the build.
 
 BUILD_PACKAGES="cmake g++ ninja-build pkg-config libgl-dev qt6-base-dev qt6-svg-dev
-    libqscintilla2-qt6-dev libgtest-dev"
+    libqscintilla2-qt6-dev libhunspell-dev hunspell-en-us libgtest-dev"
 
 is_installed() {
     dpkg-query -W -f '${db:Status-Status}\n' "$1" 2>/dev/null | grep -qx installed

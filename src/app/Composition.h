@@ -11,11 +11,15 @@
 #include "services/desktop/system/QtEventQueue.h"
 #include "services/desktop/system/QtKeyboard.h"
 #include "services/desktop/system/QtPictures.h"
+#include "services/desktop/system/QtPrinter.h"
 #include "services/desktop/windows/QtWindowSystem.h"
+#include "services/host/DesktopRegistry.h"
 #include "services/host/HostCalendar.h"
 #include "services/host/HostFiles.h"
 #include "services/host/HostRtfConversion.h"
 #include "services/host/HostSettings.h"
+#include "services/host/HostShell.h"
+#include "services/host/HunspellDictionary.h"
 
 namespace tagsmith {
 
@@ -38,7 +42,11 @@ class Composition {
   HostSettings settings_;
   HostCalendar calendar_;
   HostRtfConversion rtf_{files_};
+  HostShell shell_{files_};
+  DesktopRegistry registry_;
+  HunspellDictionary dictionary_;
   QtWindowSystem windows_;
+  QtPrinter printer_;
   QtDialogs dialogs_;
   QtClipboard clipboard_;
   QtKeyboard keyboard_;

@@ -54,4 +54,9 @@ bool CommonDialog::ShowFont() {
   return true;
 }
 
+bool CommonDialog::ShowPrinter() {
+  const bool offerSelection = (flags & kOfferSelection) != 0;
+  return DialogsOf(owner_).PickPrinter(owner_, offerSelection) || Cancelled();
+}
+
 }  // namespace tagsmith

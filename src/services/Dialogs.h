@@ -55,6 +55,10 @@ class Dialogs {
   /// The chosen colour or font, or nothing on Cancel.
   virtual std::optional<Colour> PickColour(Form& owner, Colour start) = 0;
   virtual std::optional<FontSpec> PickFont(Form& owner, const FontSpec& start) = 0;
+
+  /// Lets the user choose and set up the printer; false on Cancel. `offerSelection` tells whether
+  /// there is a selection that could be printed alone. Throws `Error` when there is no dialog.
+  virtual bool PickPrinter(Form& owner, bool offerSelection) = 0;
 };
 
 }  // namespace tagsmith

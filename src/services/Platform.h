@@ -9,12 +9,16 @@ namespace tagsmith {
 class Calendar;
 class Clipboard;
 class Dialogs;
+class Dictionary;
 class EventQueue;
 class FileSystem;
 class Keyboard;
 class PictureLoader;
+class Printer;
+class Registry;
 class RtfConversion;
 class SettingsStore;
+class Shell;
 class WindowSystem;
 
 /// All that the system asks of the desktop, in one place, and the forms of the run. The services
@@ -30,6 +34,10 @@ struct Platform {
   PictureLoader& pictures;
   Calendar& calendar;
   RtfConversion& rtf;
+  Printer& printer;
+  Shell& shell;
+  Registry& registry;
+  Dictionary& dictionary;
 
   /// The folder beside which the program's own files lie: a system path without a backslash.
   std::string applicationPath;

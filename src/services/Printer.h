@@ -1,14 +1,17 @@
 #pragma once
 
-#include <cstddef>
-
-#include "services/TextPane.h"
 #include "services/Units.h"
 
 namespace tagsmith {
 
-/// The printer that the user has chosen, in twips. Every call throws `Error` when the printer
-/// fails.
+/// What a page is drawn on. The desktop that made it knows how to draw.
+class DeviceContext {
+ public:
+  virtual ~DeviceContext() = default;
+};
+
+/// The printer that the user has chosen, in twips. Sizes and offsets may throw `Error`, the others
+/// throw it when the printer fails.
 class Printer {
  public:
   virtual ~Printer() = default;
@@ -16,17 +19,17 @@ class Printer {
   /// The size of the paper.
   virtual Twips Width() const = 0;
   virtual Twips Height() const = 0;
+  /// The size of the printable area.
+  virtual Twips ScaleWidth() const = 0;
+  virtual Twips ScaleHeight() const = 0;
   /// How far the printable area starts from the paper's left and top edge.
   virtual Twips OffsetX() const = 0;
   virtual Twips OffsetY() const = 0;
 
-  /// Opens the job with its first page.
+  /// Opens the job with its first page. A job that was left open is given up.
   virtual void StartDoc() = 0;
-  /// Paints the text of `pane` from byte `first` into `area`, which counts from the corner of the
-  /// printable area, with the pane's font and without colours. Gives the position of the first
-  /// character that did not fit: the length of the text when all did.
-  virtual std::size_t RenderPage(const TextPane& pane, std::size_t first,
-                                 const TwipsRect& area) = 0;
+  /// The page that is open: good until the next call of `NewPage` or `EndDoc`.
+  virtual DeviceContext& Context() = 0;
   virtual void NewPage() = 0;
   /// Commits the job.
   virtual void EndDoc() = 0;

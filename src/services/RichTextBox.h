@@ -42,6 +42,10 @@ class RichTextBox : public Control, private TextPaneListener {
   /// Forgets what could be undone.
   void EmptyUndoHistory() { pane_->EmptyUndoHistory(); }
 
+  /// Page formatting, as `TextPane` tells.
+  std::size_t FormatRange(const PageRequest& request) { return pane_->FormatRange(request); }
+  void EndFormatting() { pane_->EndFormatting(); }
+
   /// An object whose lifetime is one undo step.
   class UndoGroup {
    public:

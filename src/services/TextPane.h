@@ -8,6 +8,18 @@
 
 namespace tagsmith {
 
+class DeviceContext;
+
+/// One page of a text, to be drawn. Lengths in twips.
+struct PageRequest {
+  DeviceContext* render = nullptr;    ///< What the page is drawn on; null only measures.
+  DeviceContext* measure = nullptr;   ///< What the text is laid out for.
+  TwipsRect drawing;                  ///< Where the text goes, from the printable area's corner.
+  TwipsRect page;                     ///< The printable area.
+  std::size_t firstCharacter = 0;     ///< The byte that the page begins with.
+  std::ptrdiff_t lastCharacter = -1;  ///< The byte before which it ends; -1 for the text's end.
+};
+
 /// What the user has done to a text pane, told by the live component when the event is done.
 class TextPaneListener {
  public:
@@ -56,6 +68,12 @@ class TextPane {
   virtual void EndUndoGroup() = 0;
   virtual void Undo() = 0;
   virtual void EmptyUndoHistory() = 0;
+
+  /// Draws one page with the pane's font, black on white. Gives the position of the first character
+  /// that did not fit: that of the text's end when all did.
+  virtual std::size_t FormatRange(const PageRequest& request) = 0;
+  /// Frees what `FormatRange` keeps from one page to the next.
+  virtual void EndFormatting() = 0;
 };
 
 }  // namespace tagsmith

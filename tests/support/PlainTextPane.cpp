@@ -127,4 +127,11 @@ void PlainTextPane::EmptyUndoHistory() {
   if (groups_ > 0) undo_.emplace_back();
 }
 
+std::size_t PlainTextPane::FormatRange(const PageRequest& request) {
+  pages.push_back(request);
+  formatting = true;
+  const auto fits = static_cast<std::size_t>(std::max(request.drawing.height / 240, 0));
+  return std::min(request.firstCharacter + fits, text_.size());
+}
+
 }  // namespace tagsmith

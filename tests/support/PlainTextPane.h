@@ -41,6 +41,13 @@ class PlainTextPane final : public TextPane {
   void EndUndoGroup() override;
   void Undo() override { TryUndo(); }
   void EmptyUndoHistory() override;
+  /// A page holds as many bytes as its drawing rectangle is high, in lines of 240 twips.
+  std::size_t FormatRange(const PageRequest& request) override;
+  void EndFormatting() override { formatting = false; }
+
+  /// The pages that were asked for, and whether what they keep has not been freed yet.
+  std::vector<PageRequest> pages;
+  bool formatting = false;
 
  private:
   struct Span {

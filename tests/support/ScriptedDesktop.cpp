@@ -79,6 +79,10 @@ ScriptedDesktop::ScriptedDesktop()
                .pictures = *this,
                .calendar = calendar,
                .rtf = rtf,
+               .printer = printer,
+               .shell = shell,
+               .registry = registry,
+               .dictionary = dictionary,
                .applicationPath = "c:\\tagsmith",
                .commandTail = {}} {
   files.AddDirectory("c:\\tagsmith");

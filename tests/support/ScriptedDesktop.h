@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -14,14 +15,18 @@
 #include "services/Calendar.h"
 #include "services/Clipboard.h"
 #include "services/Dialogs.h"
+#include "services/Dictionary.h"
 #include "services/Error.h"
 #include "services/EventQueue.h"
 #include "services/Form.h"
 #include "services/Keyboard.h"
 #include "services/Pictures.h"
 #include "services/Platform.h"
+#include "services/Printer.h"
+#include "services/Registry.h"
 #include "services/RtfConversion.h"
 #include "services/SettingsStore.h"
+#include "services/Shell.h"
 #include "services/WindowSystem.h"
 #include "support/MemoryFiles.h"
 
@@ -108,6 +113,88 @@ class ScriptedRtfConversion : public RtfConversion {
   FileSystem& files_;
 };
 
+/// Letter paper, a quarter of an inch of which cannot be printed on, and the log of the job.
+class ScriptedPrinter : public Printer {
+ public:
+  std::vector<std::string> log;
+  /// The call of that name fails; empty for none.
+  std::string failingCall;
+
+  Twips Width() const override { return 12240; }
+  Twips Height() const override { return 15840; }
+  Twips ScaleWidth() const override { return 11520; }
+  Twips ScaleHeight() const override { return 15120; }
+  Twips OffsetX() const override { return 360; }
+  Twips OffsetY() const override { return 360; }
+  void StartDoc() override { Call("StartDoc"); }
+  DeviceContext& Context() override { return context_; }
+  void NewPage() override { Call("NewPage"); }
+  void EndDoc() override { Call("EndDoc"); }
+
+ private:
+  void Call(const std::string& name) {
+    if (name == failingCall) throw Error(ErrorCode::kOther, "The printer is on fire");
+    log.push_back(name);
+  }
+
+  DeviceContext context_;
+};
+
+/// Notes the command lines.
+class ScriptedShell : public Shell {
+ public:
+  std::vector<std::string> started;
+  /// What a start fails with; empty for none.
+  std::string failure;
+
+  void Start(std::string_view commandLine) override {
+    if (!failure.empty()) throw Error(ErrorCode::kOther, failure);
+    started.emplace_back(commandLine);
+  }
+};
+
+/// Notes what is offered, as "type: name".
+class ScriptedRegistry : public Registry {
+ public:
+  std::vector<std::string> offered;
+  std::optional<std::string> tool;
+  /// What a write fails with; empty for none.
+  std::string failure;
+
+  void OfferFor(std::string_view mimeType, std::string_view entryName) override {
+    if (!failure.empty()) throw Error(ErrorCode::kPermissionDenied, failure);
+    offered.push_back(std::string(mimeType) + ": " + std::string(entryName));
+  }
+  std::optional<std::string> SystemInformationTool() const override { return tool; }
+};
+
+/// A dictionary of the words that the test lays down.
+class ScriptedDictionary : public Dictionary {
+ public:
+  std::set<std::string, std::less<>> words;
+  std::map<std::string, std::vector<std::string>, std::less<>> suggestions;
+  /// What was looked up and learnt, in order.
+  std::vector<std::string> asked;
+  std::vector<std::string> learnt;
+  /// What each call fails with; empty for none.
+  std::string failure;
+
+  bool Knows(std::string_view word) override {
+    asked.emplace_back(word);
+    if (!failure.empty()) throw Error(ErrorCode::kFileNotFound, failure);
+    return words.contains(word);
+  }
+  std::vector<std::string> Suggest(std::string_view word) override {
+    const auto found = suggestions.find(word);
+    return found == suggestions.end() ? std::vector<std::string>() : found->second;
+  }
+  void Learn(std::string_view word) override {
+    words.emplace(word);
+    learnt.emplace_back(word);
+    if (!failure.empty()) throw Error(ErrorCode::kPermissionDenied, failure);
+  }
+};
+
 /// A desktop without a screen. The test lays down the answers to the questions that will be asked,
 /// in their order; a question that was not expected, and an answer that was not used, fail the
 /// test. Modal forms are questions too: their answer is a function that acts as the user.
@@ -127,6 +214,10 @@ class ScriptedDesktop : private WindowSystem,
   MemoryClipboard clipboard;
   FixedCalendar calendar;
   ScriptedRtfConversion rtf{files};
+  ScriptedPrinter printer;
+  ScriptedShell shell;
+  ScriptedRegistry registry;
+  ScriptedDictionary dictionary;
   /// The program's own folder is "c:\tagsmith"; the command tail is empty. Both may be rewritten
   /// before the application starts.
   Platform platform;
@@ -141,6 +232,10 @@ class ScriptedDesktop : private WindowSystem,
   void ExpectSaveFile(std::optional<std::string> path) { Expect("save file", std::move(path)); }
   void ExpectColour(std::optional<Colour> colour) { Expect("colour", colour); }
   void ExpectFont(std::optional<FontSpec> font) { Expect("font", std::move(font)); }
+  /// The print dialog; false is Cancel.
+  void ExpectPrinter(bool offerSelection, bool chosen) {
+    Expect(offerSelection ? "printer or selection" : "printer", chosen);
+  }
   /// The form `T` will be shown modally: `act` is the user, and has to close it.
   template <class T>
   void OnModal(std::function<void(T&)> act) {
@@ -198,6 +293,9 @@ class ScriptedDesktop : private WindowSystem,
   }
   std::optional<FontSpec> PickFont(Form& /*owner*/, const FontSpec& /*start*/) override {
     return Answer("font", std::optional<FontSpec>());
+  }
+  bool PickPrinter(Form& /*owner*/, bool offerSelection) override {
+    return Answer(offerSelection ? "printer or selection" : "printer", false);
   }
   void SendKeys(std::string_view keys) override;
   void DoEvents() override {

@@ -75,4 +75,8 @@ void QtTextPane::EmptyUndoHistory() {
   if (view_) view_->EmptyUndoHistory();
 }
 
+std::size_t QtTextPane::FormatRange(const PageRequest& /*request*/) { return Length(); }
+
+void QtTextPane::EndFormatting() {}
+
 }  // namespace tagsmith

@@ -46,6 +46,8 @@ class QtTextPane final : public TextPane {
   void EndUndoGroup() override;
   void Undo() override;
   void EmptyUndoHistory() override;
+  std::size_t FormatRange(const PageRequest& request) override;
+  void EndFormatting() override;
 
  private:
   QPointer<SourceView> view_;

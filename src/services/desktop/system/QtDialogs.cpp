@@ -230,8 +230,11 @@ void SetStart(QFileDialog& dialog, const QString& directory, const QString& file
 
 }  // namespace
 
-QtDialogs::QtDialogs(WindowOf windowOf, PathMap toHost, PathMap toSystem)
-    : windowOf_(std::move(windowOf)), toHost_(std::move(toHost)), toSystem_(std::move(toSystem)) {}
+QtDialogs::QtDialogs(WindowOf windowOf, PathMap toHost, PathMap toSystem, QtPrinter& printer)
+    : windowOf_(std::move(windowOf)),
+      toHost_(std::move(toHost)),
+      toSystem_(std::move(toSystem)),
+      printer_(printer) {}
 
 // A form whose window is not on the screen asks from above the active one.
 QWidget* QtDialogs::ParentFor(Form& owner) const {
@@ -305,6 +308,11 @@ std::optional<FontSpec> QtDialogs::PickFont(Form& owner, const FontSpec& start) 
   KeepStyleAcrossFamilies(*dialog);
   if (dialog.Run() != QDialog::Accepted) return std::nullopt;
   return FromQFont(dialog->selectedFont(), start);
+}
+
+bool QtDialogs::PickPrinter(Form& /*owner*/, bool /*offerSelection*/) {
+  static_cast<void>(printer_);
+  return false;
 }
 
 }  // namespace tagsmith

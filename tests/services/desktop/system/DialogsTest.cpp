@@ -22,6 +22,7 @@
 #include "services/desktop/system/FileFilters.h"
 #include "services/desktop/system/QtDialogs.h"
 #include "services/desktop/system/QtKeyboard.h"
+#include "services/desktop/system/QtPrinter.h"
 #include "services/desktop/system/TextConversion.h"
 
 namespace tagsmith {
@@ -79,7 +80,8 @@ class DesktopDialogs : public testing::Test {
   Form& form_ = reinterpret_cast<Form&>(formStorage_);
   std::unique_ptr<QWidget> window_ = std::make_unique<QWidget>();
   QLineEdit* edit_ = new QLineEdit(window_.get());
-  QtDialogs dialogs_{[this](Form&) { return window_.get(); }, Host, System};
+  QtPrinter printer_;
+  QtDialogs dialogs_{[this](Form&) { return window_.get(); }, Host, System, printer_};
 };
 
 TEST_F(DesktopDialogs, MessageBoxGivesTheAnswerAndReturnsTheFocus) {

@@ -28,6 +28,10 @@ struct Screen {
                     desktop.platform.pictures,
                     desktop.platform.calendar,
                     desktop.platform.rtf,
+                    desktop.platform.printer,
+                    desktop.platform.shell,
+                    desktop.platform.registry,
+                    desktop.platform.dictionary,
                     "c:\\tagsmith",
                     ""};
 };

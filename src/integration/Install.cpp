@@ -1,0 +1,7 @@
+#include "integration/Install.h"
+
+namespace tagsmith::integration {
+
+void Install(Application& /*application*/) {}
+
+}  // namespace tagsmith::integration
