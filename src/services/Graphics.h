@@ -17,6 +17,9 @@ class Label : public Control {
 
   const std::string& Caption() const { return caption_; }
   void SetCaption(std::string_view caption);
+  /// Whether an ampersand in the caption is itself (paths), instead of marking the access key.
+  bool PlainCaption() const { return plainCaption_; }
+  void SetPlainCaption(bool plain) { plainCaption_ = plain; }
 
   // The mouse, for a label that serves as a handle: button (kLeftButton ...; while moving, the
   // buttons held), then the place in twips from the label's own top left corner.
@@ -30,6 +33,7 @@ class Label : public Control {
 
  private:
   std::string caption_;
+  bool plainCaption_ = false;
 };
 
 /// A titled box around other controls. A disabled frame disables what stands in it.

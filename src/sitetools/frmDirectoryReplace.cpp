@@ -18,6 +18,7 @@ frmDirectoryReplace::frmDirectoryReplace(Application& application)
     : FileSelectionForm(application, "frmDirectoryReplace", "Directory Replace Dialog",
                         {.select = "STEP 2 - Select File(s) To Replace",
                          .leave = "STEP 5 - Click Cancel When Finished"}) {
+  lblStatus.SetPlainCaption(true);
   lblStatus.SetCaption(kIdleStatus);
   txtEdit.SetWidth(kViewPortWidth);
   txtEdit.SetHeight(kViewPortHeight);

@@ -44,7 +44,8 @@ bool LabelView::IsHandle() const {
 }
 
 void LabelView::LinkTo(QWidget* field) {
-  const bool hasKey = ToQString(model_.Caption()) != WithoutMnemonic(model_.Caption());
+  const bool hasKey =
+      !model_.PlainCaption() && ToQString(model_.Caption()) != WithoutMnemonic(model_.Caption());
   if (hasKey) {
     label_->setBuddy(field);
     UpdateText();
@@ -55,8 +56,8 @@ void LabelView::LinkTo(QWidget* field) {
 
 // Without a buddy the widget shows ampersands as they are.
 void LabelView::UpdateText() {
-  label_->setText(label_->buddy() != nullptr ? ToQString(model_.Caption())
-                                             : WithoutMnemonic(model_.Caption()));
+  const bool asItStands = label_->buddy() != nullptr || model_.PlainCaption();
+  label_->setText(asItStands ? ToQString(model_.Caption()) : WithoutMnemonic(model_.Caption()));
 }
 
 // A dark text colour that was meant for a light window is lightened on a dark one.

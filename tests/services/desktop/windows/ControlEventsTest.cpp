@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -17,6 +18,7 @@
 #include <algorithm>
 
 #include "services/Buttons.h"
+#include "services/Graphics.h"
 #include "services/Lists.h"
 #include "services/MSFlexGrid.h"
 #include "services/Menu.h"
@@ -67,6 +69,7 @@ class Probe : public ProbeForm {
   Slider sldSize{*this, "sldSize", Orientation::kHorizontal, 1, 25};
   SSTab tabPages{*this, "tabPages", TabSide::kTop, {"One", "R && D"}};
   MSFlexGrid grid{*this, "grid", 3, 3};
+  Label lblName{*this, "lblName", ""};
   Slider sldUpright{*this, "sldUpright", Orientation::kVertical, 1, 25};
 };
 
@@ -258,6 +261,9 @@ TEST_F(ControlEvents, MenusTellOnceAndFileNamesAreShownLetterByLetter) {
   form.tabPages.SetPlainCaptions(true);
   form.tabPages.SetTabCaption(0, "a&b.html");
   EXPECT_EQ(form.Widget(form.tabPages)->findChild<QTabBar*>()->tabText(0), "a&&b.html");
+  form.lblName.SetPlainCaption(true);
+  form.lblName.SetCaption("R&D && b.html");
+  EXPECT_EQ(form.Widget<QLabel>(form.lblName)->text(), "R&D && b.html");
   EXPECT_FALSE(form.Widget(form.cmdTool)->toolTip().contains("<B>"));
 }
 
