@@ -7,6 +7,8 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QPainter>
+#include <QPrinter>
 #include <fstream>
 #include <iterator>
 #include <memory>
@@ -14,7 +16,9 @@
 
 #include "RunningProgram.h"
 #include "core/EditingCommands.h"
+#include "core/Printing.h"
 #include "services/Lines.h"
+#include "services/desktop/system/QtPrinter.h"
 
 namespace tagsmith::bench {
 namespace {
@@ -186,6 +190,40 @@ void GotoLastLineBare(benchmark::State& state) {
   state.SetComplexityN(state.range(0));
 }
 
+// About 200 pages of A4 to a PDF file.
+void Print(benchmark::State& state) {
+  Program& program = TheProgram();
+  program.Form().ReplaceDocument(Lines(static_cast<std::size_t>(state.range(0))));
+  dynamic_cast<QtPrinter&>(program.App().platform.printer)
+      .Device()
+      .setOutputFileName(program.FilePath("printed.pdf"));
+  for (auto _ : state) {
+    PrintRichText(program.Form().txtEdit, kTwipsPerInch, kTwipsPerInch, kTwipsPerInch,
+                  kTwipsPerInch);
+  }
+  state.SetComplexityN(state.range(0));
+}
+
+// The component's own page formatting, straight to the printer.
+void PrintBare(benchmark::State& state) {
+  BarePane pane;
+  pane.SetText(Lines(static_cast<std::size_t>(state.range(0))));
+  for (auto _ : state) {
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFileName(TheProgram().FilePath("printed.pdf"));
+    printer.setPageMargins(QMarginsF(1, 1, 1, 1), QPageLayout::Inch);
+    QPainter painter(&printer);
+    const QRect area(QPoint(), printer.pageLayout().paintRectPixels(printer.resolution()).size());
+    const long length = pane->SendScintilla(QsciScintilla::SCI_GETLENGTH);
+    for (long next = 0;;) {
+      next = pane->SendScintilla(QsciScintilla::SCI_FORMATRANGE, 1UL, &painter, area, next, length);
+      if (next >= length) break;
+      printer.newPage();
+    }
+  }
+  state.SetComplexityN(state.range(0));
+}
+
 void AddSizes(benchmark::internal::Benchmark* benchmark, int64_t largest) {
   benchmark->Arg(largest / 4)->Arg(largest / 2)->Arg(largest);
   benchmark->Unit(benchmark::kMillisecond)->Complexity(benchmark::oN);
@@ -193,6 +231,7 @@ void AddSizes(benchmark::internal::Benchmark* benchmark, int64_t largest) {
 
 void Pages(benchmark::internal::Benchmark* benchmark) { AddSizes(benchmark, kLargestDocument); }
 void ManyLines(benchmark::internal::Benchmark* benchmark) { AddSizes(benchmark, 20'000); }
+void PrintedLines(benchmark::internal::Benchmark* benchmark) { AddSizes(benchmark, 11'000); }
 
 BENCHMARK(Load)->Apply(Pages);
 BENCHMARK(LoadBare)->Apply(Pages);
@@ -202,6 +241,8 @@ BENCHMARK(BlockComment)->Apply(ManyLines);
 BENCHMARK(BlockCommentBare)->Apply(ManyLines);
 BENCHMARK(GotoLastLine)->Apply(Pages);
 BENCHMARK(GotoLastLineBare)->Apply(Pages);
+BENCHMARK(Print)->Apply(PrintedLines);
+BENCHMARK(PrintBare)->Apply(PrintedLines);
 
 }  // namespace
 }  // namespace tagsmith::bench

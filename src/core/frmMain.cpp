@@ -4,6 +4,7 @@
 #include "core/EditingCommands.h"
 #include "core/FileCommands.h"
 #include "core/MainLayout.h"
+#include "core/Printing.h"
 #include "core/RecentFiles.h"
 #include "core/SettingsKeys.h"
 #include "core/Sidebar.h"
@@ -47,6 +48,7 @@ frmMain::frmMain(Application& application)
   recentFiles_ = std::make_unique<RecentFiles>(*this);
   sidebar_ = std::make_unique<Sidebar>(*this);
   editingCommands_ = std::make_unique<EditingCommands>(*this);
+  BindPrinting(*this);
   BindEvents();
 }
 

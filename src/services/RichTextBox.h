@@ -28,6 +28,8 @@ class RichTextBox : public Control, private TextPaneListener {
   void SetSelStart(std::size_t position) { pane_->Select(position, 0); }
   std::size_t SelLength() const { return pane_->SelLength(); }
   void SetSelLength(std::size_t length) { pane_->Select(pane_->SelStart(), length); }
+  /// For a word that the user is to see while an undo step is open.
+  void ShowSelection() { pane_->ShowSelection(); }
   std::string SelText() const { return TextRange(SelStart(), SelLength()); }
   void SetSelText(std::string_view text);
 

@@ -52,6 +52,9 @@ class TextPane {
   virtual std::size_t SelLength() const = 0;
   /// Selects `length` bytes from `start`, or puts the caret there, and scrolls it into view.
   virtual void Select(std::size_t start, std::size_t length) = 0;
+  /// Scrolls the whole selection into view for the user to see, also while an undo group is open,
+  /// in which `Select` does not scroll.
+  virtual void ShowSelection() = 0;
   /// Puts `text` in place of the selection, as one undo step; the caret stands behind it, nothing
   /// is selected.
   virtual void ReplaceSelection(std::string_view text) = 0;

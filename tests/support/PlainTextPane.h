@@ -33,6 +33,7 @@ class PlainTextPane final : public TextPane {
   std::size_t SelStart() const override { return selection_.start; }
   std::size_t SelLength() const override { return selection_.length; }
   void Select(std::size_t start, std::size_t length) override;
+  void ShowSelection() override { shownSelection = SelStart(); }
   void ReplaceSelection(std::string_view text) override;
   std::size_t LineFromPosition(std::size_t position) const override;
   FontSpec Font() const override { return font_; }
@@ -48,6 +49,8 @@ class PlainTextPane final : public TextPane {
   /// The pages that were asked for, and whether what they keep has not been freed yet.
   std::vector<PageRequest> pages;
   bool formatting = false;
+  /// Where the selection was when it was last to be shown.
+  std::size_t shownSelection = 0;
 
  private:
   struct Span {

@@ -80,19 +80,6 @@ constexpr std::array kStyleRuns = {
 
 constexpr unsigned long Style(int style) { return static_cast<unsigned long>(style); }
 
-void SetFont(Sci& pane, unsigned long style, const FontSpec& font) {
-  constexpr double kSmallest = 1;
-  constexpr double kLargest = 500;
-  const double size = std::clamp(font.size, kSmallest, kLargest);
-  pane.SendScintilla(Sci::SCI_STYLESETFONT, style, font.name.c_str());
-  pane.SendScintilla(Sci::SCI_STYLESETSIZEFRACTIONAL, style,
-                     std::lround(size * int{Sci::SC_FONT_SIZE_MULTIPLIER}));
-  pane.SendScintilla(Sci::SCI_STYLESETBOLD, style, long{font.bold});
-  pane.SendScintilla(Sci::SCI_STYLESETITALIC, style, long{font.italic});
-  pane.SendScintilla(Sci::SCI_STYLESETUNDERLINE, style, long{font.underline});
-  pane.SendScintilla(Sci::SCI_STYLESETEOLFILLED, style, 0L);
-}
-
 void ColourStyles(Sci& pane, const PaneColours& colours) {
   const auto colour = [&colours](Token token) {
     return colours.tokens.at(static_cast<std::size_t>(token));
@@ -160,9 +147,22 @@ void PreparePane(QsciScintilla& pane) {
                      0L);
 }
 
+void SetStyleFont(QsciScintillaBase& pane, unsigned long style, const FontSpec& font) {
+  constexpr double kSmallest = 1;
+  constexpr double kLargest = 500;
+  const double size = std::clamp(font.size, kSmallest, kLargest);
+  pane.SendScintilla(Sci::SCI_STYLESETFONT, style, font.name.c_str());
+  pane.SendScintilla(Sci::SCI_STYLESETSIZEFRACTIONAL, style,
+                     std::lround(size * int{Sci::SC_FONT_SIZE_MULTIPLIER}));
+  pane.SendScintilla(Sci::SCI_STYLESETBOLD, style, long{font.bold});
+  pane.SendScintilla(Sci::SCI_STYLESETITALIC, style, long{font.italic});
+  pane.SendScintilla(Sci::SCI_STYLESETUNDERLINE, style, long{font.underline});
+  pane.SendScintilla(Sci::SCI_STYLESETEOLFILLED, style, 0L);
+}
+
 void DressPane(QsciScintilla& pane, const PaneColours& colours, const FontSpec& font) {
   // Clearing copies the default style, font and all, into every other.
-  SetFont(pane, Style(Sci::STYLE_DEFAULT), font);
+  SetStyleFont(pane, Style(Sci::STYLE_DEFAULT), font);
   pane.SendScintilla(Sci::SCI_STYLESETFORE, Style(Sci::STYLE_DEFAULT), colours.tokens.front());
   pane.SendScintilla(Sci::SCI_STYLESETBACK, Style(Sci::STYLE_DEFAULT), colours.background);
   pane.SendScintilla(Sci::SCI_STYLECLEARALL);

@@ -4,6 +4,7 @@
 #include "services/desktop/editpane/TextSpan.h"
 
 class QsciScintilla;
+class QsciScintillaBase;
 
 namespace tagsmith {
 
@@ -16,6 +17,9 @@ constexpr unsigned kMatchIndicator = 9;
 /// Sets up once what never changes: the page lexer with its words, margins, no wrapping, one plain
 /// selection, no conversion of bytes.
 void PreparePane(QsciScintilla& pane);
+
+/// Gives one of the component's styles this font; strike-through it has none.
+void SetStyleFont(QsciScintillaBase& pane, unsigned long style, const FontSpec& font);
 
 /// Gives all styles the one font and each its colour.
 void DressPane(QsciScintilla& pane, const PaneColours& colours, const FontSpec& font);

@@ -1,5 +1,6 @@
 #include "services/desktop/editpane/QtTextPane.h"
 
+#include "services/desktop/editpane/PagePrinter.h"
 #include "services/desktop/editpane/SourceView.h"
 
 namespace tagsmith {
@@ -45,6 +46,10 @@ void QtTextPane::Select(std::size_t start, std::size_t length) {
   if (view_) view_->SelectSpan(view_->Content().Snap(start, length));
 }
 
+void QtTextPane::ShowSelection() {
+  if (view_) view_->ShowSelection();
+}
+
 void QtTextPane::ReplaceSelection(std::string_view text) {
   if (view_) view_->ReplaceSelection(text);
 }
@@ -75,8 +80,12 @@ void QtTextPane::EmptyUndoHistory() {
   if (view_) view_->EmptyUndoHistory();
 }
 
-std::size_t QtTextPane::FormatRange(const PageRequest& /*request*/) { return Length(); }
+std::size_t QtTextPane::FormatRange(const PageRequest& request) {
+  if (!view_) return 0;
+  if (pagePrinter_ == nullptr) pagePrinter_ = std::make_unique<PagePrinter>(view_->Font());
+  return pagePrinter_->Format(view_->Content(), request);
+}
 
-void QtTextPane::EndFormatting() {}
+void QtTextPane::EndFormatting() { pagePrinter_.reset(); }
 
 }  // namespace tagsmith

@@ -3,6 +3,7 @@
 #include <QPoint>
 #include <QPointer>
 #include <functional>
+#include <memory>
 
 #include "services/TextPane.h"
 
@@ -10,6 +11,7 @@ class QWidget;
 
 namespace tagsmith {
 
+class PagePrinter;
 class SourceView;
 
 /// The type of the data that a dragged control carries.
@@ -38,6 +40,7 @@ class QtTextPane final : public TextPane {
   std::size_t SelStart() const override;
   std::size_t SelLength() const override;
   void Select(std::size_t start, std::size_t length) override;
+  void ShowSelection() override;
   void ReplaceSelection(std::string_view text) override;
   std::size_t LineFromPosition(std::size_t position) const override;
   FontSpec Font() const override;
@@ -51,6 +54,7 @@ class QtTextPane final : public TextPane {
 
  private:
   QPointer<SourceView> view_;
+  std::unique_ptr<PagePrinter> pagePrinter_;  // From the first page of a job to its end.
 };
 
 }  // namespace tagsmith

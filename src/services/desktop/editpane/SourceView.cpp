@@ -70,6 +70,15 @@ void SourceView::SelectSpan(const TextSpan& span) {
   if (span.length > 0) claim_.start();
 }
 
+// All of it, and the start of its line where there is room for both.
+void SourceView::ShowSelection() {
+  const TextSpan span = text_.Selection();
+  SendScintilla(SCI_SETXOFFSET, 0UL, 0L);
+  SendScintilla(SCI_SCROLLRANGE, static_cast<unsigned long>(span.start),
+                static_cast<long>(span.End()));
+  if (span.length > 0) claim_.start();
+}
+
 void SourceView::ReplaceSelection(std::string_view text) {
   DropComposition();
   const TextSpan selection = text_.Selection();

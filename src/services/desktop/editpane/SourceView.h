@@ -30,6 +30,7 @@ class SourceView final : public QsciScintilla {
   const ScintillaText& Content() const { return text_; }
   void SetWholeText(std::string_view text);
   void SelectSpan(const TextSpan& span);
+  void ShowSelection();
   void ReplaceSelection(std::string_view text);
   void BeginUndoGroup();
   void EndUndoGroup();

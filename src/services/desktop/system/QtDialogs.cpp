@@ -12,6 +12,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPrintDialog>
 #include <memory>
 #include <utility>
 
@@ -19,6 +20,7 @@
 #include "services/desktop/system/FileFilters.h"
 #include "services/desktop/system/InputDialog.h"
 #include "services/desktop/system/ModalDialog.h"
+#include "services/desktop/system/QtPrinter.h"
 #include "services/desktop/system/TextConversion.h"
 
 namespace tagsmith {
@@ -310,9 +312,14 @@ std::optional<FontSpec> QtDialogs::PickFont(Form& owner, const FontSpec& start) 
   return FromQFont(dialog->selectedFont(), start);
 }
 
-bool QtDialogs::PickPrinter(Form& /*owner*/, bool /*offerSelection*/) {
-  static_cast<void>(printer_);
-  return false;
+bool QtDialogs::PickPrinter(Form& owner, bool offerSelection) {
+  ModalDialog dialog(new QPrintDialog(&printer_.Device(), ParentFor(owner)));
+  // No page range is offered, nor the page of the caret. Some dialogs show a range all the same:
+  // the printer keeps to it.
+  dialog->setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies |
+                     QAbstractPrintDialog::PrintShowPageSize);
+  dialog->setOption(QAbstractPrintDialog::PrintSelection, offerSelection);
+  return dialog.Run() == QDialog::Accepted;
 }
 
 }  // namespace tagsmith

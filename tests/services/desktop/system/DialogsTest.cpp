@@ -7,6 +7,7 @@
 #include <QFontInfo>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPrintDialog>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -213,6 +214,25 @@ TEST_F(FileDialogs, SaveTakesTheNameAsTypedAndNeverAsks) {
   }
   request_.defaultExtension = "html";
   EXPECT_EQ(Ask(true, Choose("new")), PathOf("new.html"));
+}
+
+TEST_F(DesktopDialogs, PrintDialogOffersWhatIsPrintedAndSetsUpThePrinter) {
+  const QTemporaryDir folder;
+  printer_.Device().setOutputFileName(folder.filePath("out.pdf"));
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+  for (const bool selection : {true, false}) {
+    const WhenAsked asked([&](QDialog& box) {
+      auto& dialog = dynamic_cast<QPrintDialog&>(box);
+      EXPECT_EQ(dialog.parentWidget(), window_.get());
+      EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+      EXPECT_EQ(dialog.testOption(QAbstractPrintDialog::PrintSelection), selection);
+      EXPECT_FALSE(dialog.testOption(QAbstractPrintDialog::PrintPageRange));
+      selection ? dialog.reject() : dialog.accept();
+    });
+    EXPECT_EQ(dialogs_.PickPrinter(form_, selection), !selection);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return edit_->hasFocus(); }));
+  }
+  QApplication::restoreOverrideCursor();
 }
 
 }  // namespace
