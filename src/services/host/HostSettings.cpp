@@ -1,12 +1,9 @@
 #include "services/host/HostSettings.h"
 
-#include <sys/stat.h>
-
 #include <QFile>
 #include <QLockFile>
 #include <QStandardPaths>
 #include <algorithm>
-#include <cerrno>
 #include <exception>
 #include <filesystem>
 #include <system_error>
@@ -16,6 +13,7 @@
 #include "services/host/FileReader.h"
 #include "services/host/FileStatus.h"
 #include "services/host/HostError.h"
+#include "services/host/MakeFolder.h"
 #include "services/host/RenameFile.h"
 #include "services/host/SafeWriter.h"
 
@@ -25,14 +23,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t kMostBytes = std::size_t{64} << 20U;
-
-void MakeFolder(const fs::path& folder) {
-  constexpr mode_t kForTheUserAlone = 0700;
-  std::error_code ignored;
-  if (folder.empty() || fs::is_directory(folder, ignored)) return;
-  MakeFolder(folder.parent_path());
-  if (::mkdir(folder.c_str(), kForTheUserAlone) != 0 && errno != EEXIST) throw SystemError(errno);
-}
 
 }  // namespace
 

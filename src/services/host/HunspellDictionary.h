@@ -2,17 +2,23 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "services/Dictionary.h"
+#include "services/host/DictionaryFiles.h"
+#include "services/host/OwnWords.h"
 
 namespace tagsmith {
 
-/// Hunspell with the dictionary of the desktop's language (American English where the desktop names
-/// none), and the user's own words in a file.
+/// Hunspell with the dictionary of the desktop's language (American English where it has none), and
+/// the user's own words in a file. A typographic apostrophe (U+2019) is as good as the straight
+/// one. Words of more than 60 letters get no suggestions: those would take seconds.
 class HunspellDictionary final : public Dictionary {
  public:
   /// `wordsFile` is the host path of the user's own words: UTF-8, one a line.
-  explicit HunspellDictionary(std::string wordsFile = DefaultWordsFile());
+  explicit HunspellDictionary(std::string wordsFile = DefaultWordsFile(),
+                              DictionarySearch search = DictionarySearch::OfDesktop());
   ~HunspellDictionary() override;
   HunspellDictionary(const HunspellDictionary&) = delete;
   HunspellDictionary& operator=(const HunspellDictionary&) = delete;
@@ -27,7 +33,10 @@ class HunspellDictionary final : public Dictionary {
  private:
   class Loaded;
 
-  std::string wordsFile_;
+  Loaded& Load();
+
+  OwnWords ownWords_;
+  DictionarySearch search_;
   std::unique_ptr<Loaded> loaded_;
 };
 

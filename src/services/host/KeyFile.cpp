@@ -1,0 +1,148 @@
+#include "services/host/KeyFile.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace tagsmith {
+namespace {
+
+constexpr std::string_view kBlanks = " \t\r\n";
+
+// Letter behind the backslash, and what the two stand for.
+constexpr std::array<std::pair<char, char>, 5> kEscapes = {
+    {{'s', ' '}, {'n', '\n'}, {'t', '\t'}, {'r', '\r'}, {'\\', '\\'}}};
+
+std::string_view Trim(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(kBlanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+// Takes the first line, with its line feed, off `rest`.
+std::string_view TakeLine(std::string_view& rest) {
+  const std::size_t end = rest.find('\n');
+  const std::string_view line =
+      rest.substr(0, end == std::string_view::npos ? rest.size() : end + 1);
+  rest.remove_prefix(line.size());
+  return line;
+}
+
+bool IsGroup(std::string_view line) { return Trim(line).starts_with('['); }
+
+bool IsGroup(std::string_view line, std::string_view name) {
+  line = Trim(line);
+  return line.size() == name.size() + 2 && line.front() == '[' && line.back() == ']' &&
+         line.substr(1, name.size()) == name;
+}
+
+bool SetsKey(std::string_view line, std::string_view key) {
+  const std::size_t equals = line.find('=');
+  return equals != std::string_view::npos && Trim(line.substr(0, equals)) == key;
+}
+
+std::string KeyLine(std::string_view key, std::string_view value) {
+  return std::string(key).append("=").append(value).append("\n");
+}
+
+void EndLine(std::string& text) {
+  if (!text.empty() && text.back() != '\n') text += '\n';
+}
+
+}  // namespace
+
+std::string_view KeyFileValue(std::string_view text, std::string_view group, std::string_view key) {
+  bool inGroup = false;
+  while (!text.empty()) {
+    const std::string_view line = TakeLine(text);
+    if (IsGroup(line)) {
+      inGroup = IsGroup(line, group);
+    } else if (inGroup && SetsKey(line, key)) {
+      return Trim(line.substr(line.find('=') + 1));
+    }
+  }
+  return {};
+}
+
+std::string WithKeyFileValue(std::string_view text, std::string_view group, std::string_view key,
+                             std::string_view value) {
+  std::string result;
+  std::size_t place = std::string::npos;  // Behind the group's first line.
+  bool inGroup = false;
+  bool isSet = false;
+  while (!text.empty()) {
+    const std::string_view line = TakeLine(text);
+    const bool startsGroup = IsGroup(line);
+    if (startsGroup) inGroup = IsGroup(line, group);
+    const bool setsIt = inGroup && !startsGroup && SetsKey(line, key);
+    isSet = isSet || setsIt;
+    result += setsIt ? KeyLine(key, value) : std::string(line);
+    if (startsGroup && inGroup && place == std::string::npos) {
+      EndLine(result);
+      place = result.size();
+    }
+  }
+  if (isSet) return result;
+
+  if (place == std::string::npos) {
+    EndLine(result);
+    if (!result.empty()) result += '\n';
+    result.append("[").append(group).append("]\n");
+    place = result.size();
+  }
+  return result.insert(place, KeyLine(key, value));
+}
+
+std::vector<std::string> KeyFileList(std::string_view value) {
+  std::vector<std::string> entries;
+  while (!value.empty()) {
+    const std::size_t end = std::min(value.find(';'), value.size());
+    if (const std::string_view entry = Trim(value.substr(0, end)); !entry.empty()) {
+      entries.emplace_back(entry);
+    }
+    value.remove_prefix(std::min(end + 1, value.size()));
+  }
+  return entries;
+}
+
+std::string KeyFileListValue(const std::vector<std::string>& entries) {
+  std::string value;
+  for (const std::string& entry : entries) value.append(entry).append(";");
+  return value;
+}
+
+std::string UnescapeKeyFileText(std::string_view value) {
+  std::string text;
+  for (std::size_t i = 0; i < value.size(); ++i) {
+    char c = value[i];
+    if (c == '\\' && i + 1 < value.size()) {
+      for (const auto& [letter, meaning] : kEscapes) {
+        if (value[i + 1] != letter) continue;
+        c = meaning;
+        ++i;
+        break;
+      }
+    }
+    text += c;
+  }
+  return text;
+}
+
+std::string EscapeKeyFileText(std::string_view text) {
+  std::string value;
+  for (const char c : text) {
+    char letter = 0;
+    for (const auto& [escape, meaning] : kEscapes) {
+      const bool isNeeded = meaning != ' ' || value.empty();
+      if (c == meaning && isNeeded) letter = escape;
+    }
+    if (letter == 0) {
+      value += c;
+    } else {
+      value.append("\\").push_back(letter);
+    }
+  }
+  return value;
+}
+
+}  // namespace tagsmith
