@@ -111,7 +111,9 @@ void EntryList::keyPressEvent(QKeyEvent* event) {
     if (slot) slot({ListGesture::Kind::kOpen, Qt::NoButton, CurrentRow()});
     return;
   }
-  QListView::keyPressEvent(event);
+  // Where nothing is selected the list would go on from the first entry to the second.
+  const bool entersList = event->key() == Qt::Key_Down && !selectionModel()->hasSelection();
+  entersList ? ShowRow(0) : QListView::keyPressEvent(event);
   if (slot) slot({ListGesture::Kind::kMove, Qt::NoButton, CurrentRow()});
 }
 

@@ -64,7 +64,7 @@ WindowEvents FormWindow::Events() {
       .closeWanted = [this] { Act([this] { form_.UserClose(); }); },
       .escapePressed =
           [this] {
-            if (form_.Border() == BorderStyle::kSizable) return;
+            if (form_.Border() == BorderStyle::kSizable && modalLoop_ == nullptr) return;
             Act([this] { form_.UserClose(); });
           },
       .enterPressed =
