@@ -23,7 +23,8 @@ class QtPicture final : public Picture {
   QImage image_;
 };
 
-/// Reads the picture formats that Qt knows, the format told by the file's contents.
+/// Reads BMP (also without its file header), GIF (the first frame), ICO, JPEG (upright, as the
+/// camera was held) and PNG, the format told by the file's contents.
 class QtPictures final : public PictureLoader {
  public:
   /// `hostPathOf` gives the host's path for a system path.
