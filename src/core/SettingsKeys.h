@@ -44,6 +44,9 @@ inline constexpr Setting kFontItalic{kFonts, "Italic", "False"};
 /// What a flag that is set looks like in the store; nothing else counts as set.
 inline constexpr std::string_view kTrue = "True";
 inline constexpr std::string_view kFalse = "False";
+/// The same for the virtual path.
+inline constexpr std::string_view kYes = "yes";
+inline constexpr std::string_view kNo = "no";
 
 }  // namespace settings
 }  // namespace tagsmith
