@@ -1,20 +1,27 @@
-// The site tools without a window, one command a process, on the functions that their forms call:
-// what hyperfine sets beside the commands that do the same elsewhere.
+// The site tools and the spelling check without a window, one command a process, on the functions
+// that their forms call: what hyperfine sets beside the commands that do the same elsewhere.
 
+#include <chrono>
 #include <exception>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <iostream>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
+#include "integration/PageWords.h"
+#include "integration/SpellCheck.h"
 #include "services/Error.h"
 #include "services/TextEncoding.h"
 #include "services/host/HostFiles.h"
 #include "services/host/HostRtfConversion.h"
+#include "services/host/HunspellDictionary.h"
 #include "sitetools/DirectoryReplace.h"
 #include "sitetools/IndexPage.h"
 #include "sitetools/LowerCaseWalk.h"
@@ -85,6 +92,40 @@ void ConvertDirectory(HostFiles& files, const Arguments& arguments) {
   }
 }
 
+// All of a page, each doubtful word ignored. Reading the dictionary is not counted in the time.
+void Spell(HostFiles& files, const Arguments& arguments) {
+  std::optional<std::string> bytes =
+      files.ReadFile(SystemPath(arguments[0]), sitetools::kFileSizeLimit);
+  if (!bytes) throw Error(ErrorCode::kOther, "The file is too large");
+  std::string page = DecodeText(*std::move(bytes)).text;
+  std::size_t words = 0;
+  std::set<std::string, std::less<>> different;
+  integration::PageWords walk(page);
+  for (; const auto word = walk.Next(); ++words) different.emplace(word->text);
+
+  HunspellDictionary dictionary;
+  dictionary.Knows("the");
+  integration::SpellCheck check(dictionary);
+  std::size_t doubtful = 0;
+  const auto start = std::chrono::steady_clock::now();
+  check.CheckText(std::move(page));
+  for (; check.ResultCode() == integration::kDoubtfulWord; check.ContinueCheck()) ++doubtful;
+  const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
+  std::cout << words << " words, " << different.size() << " different, " << doubtful
+            << " doubtful\n";
+  std::cerr << static_cast<double>(words) / time.count() << " words a second\n";
+}
+
+void Suggest(HostFiles& /*files*/, const Arguments& arguments) {
+  HunspellDictionary dictionary;
+  std::ifstream list(arguments[0]);
+  for (std::string word; std::getline(list, word);) {
+    std::cout << word << ':';
+    for (const std::string& suggestion : dictionary.Suggest(word)) std::cout << ' ' << suggestion;
+    std::cout << '\n';
+  }
+}
+
 struct Command {
   std::size_t argumentCount;
   std::function<void(HostFiles&, const Arguments&)> run;
@@ -95,6 +136,8 @@ const std::map<std::string, Command, std::less<>> kCommands = {
     {"replace-file", {3, ReplaceInFile}},
     {"lowercase", {1, LowerCase}},
     {"index", {2, Index}},
+    {"spell", {1, Spell}},
+    {"suggest", {1, Suggest}},
     {"rtf",
      {2, [](HostFiles& files, const Arguments& names) { ConvertFile(files, names[0], names[1]); }}},
     {"rtf-dir", {2, ConvertDirectory}},
@@ -104,7 +147,8 @@ int Main(const Arguments& arguments) {
   const auto command = arguments.empty() ? kCommands.end() : kCommands.find(arguments.front());
   if (command == kCommands.end() || arguments.size() - 1 != command->second.argumentCount) {
     std::cerr << "tagsmith_bench_driver replace-dir DIR FIND REPL | replace-file FILE FIND REPL |\n"
-                 "    lowercase DIR | index DIR OUT.html | rtf IN OUT | rtf-dir INDIR OUTDIR\n";
+                 "    lowercase DIR | index DIR OUT.html | rtf IN OUT | rtf-dir INDIR OUTDIR |\n"
+                 "    spell FILE.html | suggest WORDS.txt\n";
     return 2;
   }
   HostFiles files;

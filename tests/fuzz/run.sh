@@ -24,3 +24,4 @@ fuzz() {
 fuzz rtf "$here/corpus/rtf" "$here/../services/rtf/samples"
 fuzz menu "$here/corpus/menu"
 fuzz project "$here/corpus/project"
+fuzz words "$here/corpus/words"
