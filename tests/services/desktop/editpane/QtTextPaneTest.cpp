@@ -221,6 +221,24 @@ TEST_F(QtTextPaneTest, TakesMarksOffTagsThatMatchNoMore) {
   EXPECT_EQ(Marked(), "0123456789 0123456789 <ul>text</ul><[p]></[p]>");
 }
 
+TEST_F(QtTextPaneTest, ShowsTheWholeSelectionWithinAnUndoStep) {
+  const std::string wide(500, 'x');
+  std::string text = "word " + wide;
+  for (int i = 0; i < 500; ++i) text += "\n";
+  pane_.SetText(text + "end");
+  pane_.Select(wide.size(), 5);
+  EXPECT_GT(View().SendScintilla(Sci::SCI_GETXOFFSET), 0);
+  pane_.BeginUndoGroup();
+  pane_.Select(text.size(), 3);
+  pane_.ShowSelection();
+  EXPECT_GT(View().SendScintilla(Sci::SCI_GETFIRSTVISIBLELINE), 0);
+  pane_.Select(0, 4);
+  pane_.ShowSelection();
+  pane_.EndUndoGroup();
+  EXPECT_EQ(View().SendScintilla(Sci::SCI_GETFIRSTVISIBLELINE), 0);
+  EXPECT_EQ(View().SendScintilla(Sci::SCI_GETXOFFSET), 0);
+}
+
 TEST_F(QtTextPaneTest, ColoursServerCodeInTheLanguageOfThePage) {
   const auto style = [&](unsigned long position) {
     View().SendScintilla(Sci::SCI_COLOURISE, 0UL, -1L);
