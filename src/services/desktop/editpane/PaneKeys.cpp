@@ -83,11 +83,17 @@ void KeepOrdinaryKeys(QsciScintilla& pane) {
   pane.standardCommands()
       ->find(Command::Redo)
       ->setAlternateKey(QKeyCombination(Qt::CTRL | Qt::SHIFT, Qt::Key_Z).toCombined());
+  // The plus of many keyboards is the equals key with Shift.
+  pane.standardCommands()
+      ->find(Command::ZoomIn)
+      ->setAlternateKey(QKeyCombination(Qt::CTRL, Qt::Key_Equal).toCombined());
 }
 
 int BoundCommand(QsciScintilla& pane, const QKeyEvent& key) {
   const bool keypadEnter = key.key() == Qt::Key_Enter;
-  const QKeyCombination keys(key.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier),
+  Qt::KeyboardModifiers modifiers = key.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
+  if (key.key() == Qt::Key_Plus) modifiers &= ~Qt::KeyboardModifiers(Qt::ShiftModifier);
+  const QKeyCombination keys(modifiers,
                              keypadEnter ? Qt::Key_Return : static_cast<Qt::Key>(key.key()));
   const QsciCommand* command = pane.standardCommands()->boundTo(keys.toCombined());
   return command == nullptr ? 0 : command->command();

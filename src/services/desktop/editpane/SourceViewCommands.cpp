@@ -90,6 +90,9 @@ bool SourceView::RunOwnCommand(int command) {
     case QsciCommand::Paste:
       paste();
       return true;
+    case QsciCommand::ZoomIn:
+      zoomIn();
+      return true;
     default:
       return false;
   }

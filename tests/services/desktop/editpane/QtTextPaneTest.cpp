@@ -150,6 +150,14 @@ TEST_F(QtTextPaneTest, LeavesTheMenusTheirKeys) {
   EXPECT_FALSE(shortcut.isAccepted());
 }
 
+TEST_F(QtTextPaneTest, ZoomsWithThePlusOfEveryKeyboard) {
+  Key(Qt::Key_Plus, Qt::ControlModifier | Qt::KeypadModifier);
+  Key(Qt::Key_Plus, Qt::ControlModifier | Qt::ShiftModifier);
+  Key(Qt::Key_Equal, Qt::ControlModifier);
+  Key(Qt::Key_Minus, Qt::ControlModifier);
+  EXPECT_EQ(View().SendScintilla(Sci::SCI_GETZOOM), 2);
+}
+
 TEST_F(QtTextPaneTest, CutsAndPastesWithoutChangingAByte) {
   using namespace std::string_literals;
   const std::string text = "\uFEFFa\0b\r\nc\rd\ne\u00e9"s;

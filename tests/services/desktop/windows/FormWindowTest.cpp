@@ -200,6 +200,22 @@ TEST(ModalForms, BlockUntilTheyUnloadInsideTheirOwnHandler) {
   EXPECT_EQ(screen.platform.forms.Active(), &owner);
 }
 
+TEST(ModalForms, CloseWithEscapeAlsoWhenTheyAreSizable) {
+  Screen screen;
+  Resizable form(screen);
+  form.ShowAndWait();
+  QTest::keyClick(&form.Window(), Qt::Key_Escape);
+  EXPECT_TRUE(form.IsVisible()) << "a window among others";
+  form.Hide();
+  QTimer::singleShot(0, [&] {
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&form.Window()));
+    QTest::keyClick(&form.Window(), Qt::Key_Escape);
+    EXPECT_FALSE(form.IsVisible());
+    if (form.IsVisible()) form.Hide();
+  });
+  form.Show(Modality::kModal);
+}
+
 TEST(ModelessForms, AreDestroyedRightAfterTheHandlerThatUnloadsThem) {
   Screen screen;
   auto& form = screen.platform.forms.Reach<Dialog>(screen);

@@ -86,6 +86,10 @@ TEST_F(ListEvents, AFileListSelectsBeforeItTellsTheMouse) {
   QTest::mouseClick(List(form.MyFileList)->viewport(), Qt::LeftButton, {}, QPoint(9, 150));
   EXPECT_EQ(form.MyFileList.ListIndex(), -1) << "below the entries";
   form.TakeLog();
+  QTest::keyClick(List(form.MyFileList), Qt::Key_Down);
+  EXPECT_EQ(form.TakeLog(), (Strings{"file a.html"})) << "the list is entered at its start";
+  form.MyFileList.SetListIndex(-1);
+  form.TakeLog();
   DoubleClick(form.MyFileList, 0);
   EXPECT_EQ(form.TakeLog(), (Strings{"file a.html", "down on a.html", "up", "open a.html", "up"}));
   QTest::keyClick(List(form.MyFileList), Qt::Key_Down);
