@@ -1,9 +1,10 @@
 #pragma once
 
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+
+#include "services/host/Iconv.h"
 
 namespace tagsmith {
 
@@ -23,17 +24,9 @@ class DictionaryEncoding {
   std::optional<std::string> Decode(std::string_view bytes) const;
 
  private:
-  struct Closer {
-    void operator()(void* descriptor) const;
-  };
-  using Descriptor = std::unique_ptr<void, Closer>;
-
-  static Descriptor Open(const std::string& to, const std::string& from);
-  static bool Convert(const Descriptor& descriptor, std::string_view from, std::string& into);
-
-  bool isUtf8_ = false;
-  Descriptor encoder_;  ///< Null, as the other, for UTF-8 and for what is not known.
-  Descriptor decoder_;
+  bool isUtf8_;
+  Iconv encoder_;
+  Iconv decoder_;
 };
 
 }  // namespace tagsmith

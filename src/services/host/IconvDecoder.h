@@ -1,9 +1,10 @@
 #pragma once
 
 #include <map>
-#include <memory>
 #include <string>
 #include <string_view>
+
+#include "services/host/Iconv.h"
 
 namespace tagsmith {
 
@@ -15,14 +16,9 @@ class IconvDecoder {
   std::string Decode(int codePage, std::string_view bytes);
 
  private:
-  struct Closer {
-    void operator()(void* descriptor) const;
-  };
-  using Descriptor = std::unique_ptr<void, Closer>;
+  const Iconv& ConversionOf(int codePage);
 
-  void* DescriptorOf(int codePage);
-
-  std::map<int, Descriptor> descriptors_;  ///< Null for a code page that is not known.
+  std::map<int, Iconv> conversions_;
 };
 
 }  // namespace tagsmith
