@@ -1,6 +1,6 @@
 #!/bin/sh
-# run.sh PROGRAMS SECONDS: runs each fuzzer in the folder PROGRAMS for that long, from its corpus;
-# what it finds stays in PROGRAMS.
+# run.sh PROGRAMS SECONDS: runs each fuzzer in the folder PROGRAMS for that long, from its corpus, two
+# at a time; what they find stays in PROGRAMS.
 set -eu
 programs=$1
 seconds=$2
@@ -21,7 +21,12 @@ fuzz() {
     echo "$name: $(sed -n 's/^stat::number_of_executed_units: *//p' "$programs/$name.log") inputs"
 }
 
-fuzz rtf "$here/corpus/rtf" "$here/../services/rtf/samples"
+fuzz rtf "$here/corpus/rtf" "$here/../services/rtf/samples" &
+first=$!
 fuzz menu "$here/corpus/menu"
-fuzz project "$here/corpus/project"
+wait "$first"
+
+fuzz project "$here/corpus/project" &
+first=$!
 fuzz words "$here/corpus/words"
+wait "$first"
