@@ -24,6 +24,7 @@ namespace tagsmith {
 namespace {
 
 namespace fs = std::filesystem;
+using Ids = std::vector<std::string>;
 
 constexpr const char* kId = "tagsmith-edit.desktop";
 constexpr std::size_t kMostBytes = std::size_t{16} << 20U;
@@ -65,7 +66,7 @@ void MakeExecutable(const std::string& path) {
   });
 }
 
-bool Contains(const std::vector<std::string>& ids, std::string_view id) {
+bool Contains(const Ids& ids, std::string_view id) {
   return std::ranges::find(ids, id) != ids.end();
 }
 
@@ -87,26 +88,24 @@ void DesktopRegistry::OfferFor(std::string_view mimeType, std::string_view entry
   AddToCache(offer.mimeType);
 }
 
-// Also takes back that the user has removed the program from the type.
+// Also takes back that the user has removed the program from the type. Of several lines each keeps
+// its first application where that is installed: programs do not agree on which line counts.
 void DesktopRegistry::KeepDefault(const std::string& mimeType) const {
   constexpr std::string_view kDefaults = "Default Applications";
   constexpr std::string_view kRemoved = "Removed Associations";
   const std::string path = places_.configFolders.front() + "/mimeapps.list";
   const std::string before = ReadIfThere(path);
-  std::string text = before;
-
-  std::vector<std::string> removed = KeyFileList(KeyFileValue(text, kRemoved, mimeType));
-  if (std::erase(removed, kId) > 0) {
-    text = WithKeyFileValue(text, kRemoved, mimeType, KeyFileListValue(removed));
-  }
-  if (!MimeApplications(places_).ChosenDefault(mimeType)) {
-    std::vector<std::string> defaults = OtherOpeners(mimeType);
-    for (std::string& id : KeyFileList(KeyFileValue(text, kDefaults, mimeType))) {
-      if (!defaults.empty() && !Contains(defaults, id)) defaults.push_back(std::move(id));
-    }
-    if (!defaults.empty()) {
-      text = WithKeyFileValue(text, kDefaults, mimeType, KeyFileListValue(defaults));
-    }
+  std::string text =
+      WithKeyFileList(before, kRemoved, mimeType, [](Ids& ids) { std::erase(ids, kId); });
+  const MimeApplications applications(places_);
+  const auto chosen = applications.ChosenDefault(mimeType);
+  if (!chosen || !applications.IsPlainlyChosen(mimeType)) {
+    const Ids defaults = chosen ? Ids{*chosen} : OtherOpeners(mimeType);
+    text = WithKeyFileList(text, kDefaults, mimeType, [&](Ids& ids) {
+      if (!ids.empty() && applications.IsInstalled(ids.front())) return;
+      std::erase_if(ids, [&](const std::string& id) { return Contains(defaults, id); });
+      ids.insert(ids.begin(), defaults.begin(), defaults.end());
+    });
   }
   if (text != before) Store(path, text);
 }
@@ -132,10 +131,9 @@ void DesktopRegistry::AddToCache(const std::string& mimeType) const {
   constexpr std::string_view kGroup = "MIME Cache";
   const std::string path = places_.dataFolders.front() + "/applications/mimeinfo.cache";
   const std::string text = ReadIfThere(path);
-  std::vector<std::string> ids = KeyFileList(KeyFileValue(text, kGroup, mimeType));
-  if (Contains(ids, kId)) return;
-  ids.emplace_back(kId);
-  Store(path, WithKeyFileValue(text, kGroup, mimeType, KeyFileListValue(ids)));
+  Store(path, WithKeyFileList(text, kGroup, mimeType, [](Ids& ids) {
+          if (!Contains(ids, kId)) ids.emplace_back(kId);
+        }));
 }
 
 std::string DesktopRegistry::Icon() const {

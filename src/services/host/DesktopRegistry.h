@@ -13,9 +13,9 @@ namespace tagsmith {
 ///
 /// What is in the user's own folder comes before all else, so a new application would become the
 /// default of its type where none has been chosen. There the applications that were registered
-/// before are written down as the default, in their order, in the user's mimeapps.list; that file
-/// is otherwise left alone. An application that is the only one is the desktop's default by itself,
-/// until it is offered again beside another.
+/// before are written down as the default, in their order, in the user's mimeapps.list, and so is a
+/// choice that some programs overlook; that file is otherwise left alone. An application that is
+/// the only one is the desktop's default by itself, until it is offered again beside another.
 class DesktopRegistry final : public Registry {
  public:
   explicit DesktopRegistry(DesktopPlaces places = DesktopPlaces::OfThisSession());

@@ -14,6 +14,7 @@
 #include <string>
 
 #include "services/host/DriveMap.h"
+#include "services/host/FileDescriptor.h"
 #include "services/host/FileStatus.h"
 #include "services/host/HostError.h"
 #include "services/host/HostFiles.h"
@@ -80,11 +81,12 @@ class SpawnPlan {
     ::posix_spawn_file_actions_addopen(&actions_, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
     ::posix_spawn_file_actions_addclosefrom_np(&actions_, STDERR_FILENO + 1);
     ::posix_spawn_file_actions_addchdir_np(&actions_, folder.c_str());
-    // The toolkit may ignore this signal, which a program would inherit.
-    sigset_t pipe;
-    ::sigemptyset(&pipe);
-    ::sigaddset(&pipe, SIGPIPE);
-    ::posix_spawnattr_setsigdefault(&attributes_, &pipe);
+    // The toolkit, or what has started this program, may ignore these; a program would inherit it.
+    sigset_t signals;
+    ::sigemptyset(&signals);
+    ::sigaddset(&signals, SIGPIPE);
+    ::sigaddset(&signals, SIGCHLD);
+    ::posix_spawnattr_setsigdefault(&attributes_, &signals);
     ::posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGDEF);
   }
   SpawnPlan(const SpawnPlan&) = delete;
@@ -106,19 +108,30 @@ class SpawnPlan {
 };
 
 // Starts the program by way of a process in between that ends at once, so that it is no child of
-// this one, which would have to wait for its end. The error number is that process's exit status.
+// this one, which would have to wait for its end. The error number comes through a pipe: where
+// SIGCHLD is ignored, there is no exit status.
 int StartDetached(std::string program, std::string argument) {
   const std::string folder = WorkingFolder();
   const SpawnPlan plan(folder);
   std::array<char*, 3> arguments = {program.data(), argument.empty() ? nullptr : argument.data(),
                                     nullptr};
+  std::array<int, 2> ends{};
+  if (::pipe2(ends.data(), O_CLOEXEC) != 0) return errno;
+  const FileDescriptor readEnd(ends[0]);
+  FileDescriptor writeEnd(ends[1]);
   const pid_t between = ::fork();
   if (between < 0) return errno;
-  if (between == 0) ::_exit(plan.Run(arguments.data()));
-  int status = 0;
-  while (::waitpid(between, &status, 0) < 0 && errno == EINTR) {
+  int errorNumber = ECHILD;  // Stays where the process in between is ended by force.
+  if (between == 0) {
+    errorNumber = plan.Run(arguments.data());
+    ::_exit(::write(writeEnd.Number(), &errorNumber, sizeof errorNumber) < 0 ? 1 : 0);
   }
-  return WIFEXITED(status) ? WEXITSTATUS(status) : ECHILD;
+  writeEnd = FileDescriptor(-1);
+  while (::read(readEnd.Number(), &errorNumber, sizeof errorNumber) < 0 && errno == EINTR) {
+  }
+  while (::waitpid(between, nullptr, 0) < 0 && errno == EINTR) {
+  }
+  return errorNumber;
 }
 
 }  // namespace

@@ -41,8 +41,12 @@ bool SetsKey(std::string_view line, std::string_view key) {
   return equals != std::string_view::npos && Trim(line.substr(0, equals)) == key;
 }
 
-std::string KeyLine(std::string_view key, std::string_view value) {
-  return std::string(key).append("=").append(value).append("\n");
+std::string_view ValueOf(std::string_view line) { return Trim(line.substr(line.find('=') + 1)); }
+
+std::string KeyLine(std::string_view key, const std::vector<std::string>& list) {
+  std::string line = std::string(key).append("=");
+  for (const std::string& entry : list) line.append(entry).append(";");
+  return line.append("\n");
 }
 
 void EndLine(std::string& text) {
@@ -51,21 +55,28 @@ void EndLine(std::string& text) {
 
 }  // namespace
 
-std::string_view KeyFileValue(std::string_view text, std::string_view group, std::string_view key) {
+std::vector<std::string_view> KeyFileValues(std::string_view text, std::string_view group,
+                                            std::string_view key) {
+  std::vector<std::string_view> values;
   bool inGroup = false;
   while (!text.empty()) {
     const std::string_view line = TakeLine(text);
     if (IsGroup(line)) {
       inGroup = IsGroup(line, group);
     } else if (inGroup && SetsKey(line, key)) {
-      return Trim(line.substr(line.find('=') + 1));
+      values.push_back(ValueOf(line));
     }
   }
-  return {};
+  return values;
 }
 
-std::string WithKeyFileValue(std::string_view text, std::string_view group, std::string_view key,
-                             std::string_view value) {
+std::string_view KeyFileValue(std::string_view text, std::string_view group, std::string_view key) {
+  const auto values = KeyFileValues(text, group, key);
+  return values.empty() ? std::string_view() : values.back();
+}
+
+std::string WithKeyFileList(std::string_view text, std::string_view group, std::string_view key,
+                            const std::function<void(std::vector<std::string>&)>& change) {
   std::string result;
   std::size_t place = std::string::npos;  // Behind the group's first line.
   bool inGroup = false;
@@ -76,13 +87,18 @@ std::string WithKeyFileValue(std::string_view text, std::string_view group, std:
     if (startsGroup) inGroup = IsGroup(line, group);
     const bool setsIt = inGroup && !startsGroup && SetsKey(line, key);
     isSet = isSet || setsIt;
-    result += setsIt ? KeyLine(key, value) : std::string(line);
+    const auto before = setsIt ? KeyFileList(ValueOf(line)) : std::vector<std::string>();
+    auto list = before;
+    if (setsIt) change(list);
+    result += list == before ? std::string(line) : KeyLine(key, list);
     if (startsGroup && inGroup && place == std::string::npos) {
       EndLine(result);
       place = result.size();
     }
   }
-  if (isSet) return result;
+  std::vector<std::string> added;
+  if (!isSet) change(added);
+  if (added.empty()) return result;
 
   if (place == std::string::npos) {
     EndLine(result);
@@ -90,7 +106,7 @@ std::string WithKeyFileValue(std::string_view text, std::string_view group, std:
     result.append("[").append(group).append("]\n");
     place = result.size();
   }
-  return result.insert(place, KeyLine(key, value));
+  return result.insert(place, KeyLine(key, added));
 }
 
 std::vector<std::string> KeyFileList(std::string_view value) {
@@ -103,12 +119,6 @@ std::vector<std::string> KeyFileList(std::string_view value) {
     value.remove_prefix(std::min(end + 1, value.size()));
   }
   return entries;
-}
-
-std::string KeyFileListValue(const std::vector<std::string>& entries) {
-  std::string value;
-  for (const std::string& entry : entries) value.append(entry).append(";");
-  return value;
 }
 
 std::string UnescapeKeyFileText(std::string_view value) {

@@ -19,6 +19,7 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t kMostBytes = std::size_t{16} << 20U;
 constexpr std::string_view kEntry = "Desktop Entry";
+constexpr std::string_view kDefaults = "Default Applications";
 
 std::string ReadIfPossible(const std::string& path) {
   try {
@@ -49,7 +50,8 @@ std::vector<std::string> WithApplications(std::vector<std::string> folders) {
 
 }  // namespace
 
-std::optional<std::string> MimeApplications::ChosenDefault(const std::string& mimeType) const {
+// The texts of the files, the most important first.
+std::vector<std::string> MimeApplications::DefaultLists() const {
   Ids prefixes;
   for (const std::string& desktop : places_.desktops) prefixes.push_back(desktop + '-');
   prefixes.emplace_back();
@@ -57,16 +59,31 @@ std::optional<std::string> MimeApplications::ChosenDefault(const std::string& mi
   const Ids dataFolders = WithApplications(places_.dataFolders);
   folders.insert(folders.end(), dataFolders.begin(), dataFolders.end());
 
+  std::vector<std::string> lists;
   for (const std::string& folder : folders) {
     for (const std::string& prefix : prefixes) {
       const std::string path = std::string(folder).append("/").append(prefix);
-      const std::string list = ReadIfPossible(path + "mimeapps.list");
-      for (std::string& id : KeyFileList(KeyFileValue(list, "Default Applications", mimeType))) {
-        if (IsInstalled(id)) return std::move(id);
-      }
+      lists.push_back(ReadIfPossible(path + "mimeapps.list"));
+    }
+  }
+  return lists;
+}
+
+std::optional<std::string> MimeApplications::ChosenDefault(const std::string& mimeType) const {
+  for (const std::string& list : DefaultLists()) {
+    for (std::string& id : KeyFileList(KeyFileValue(list, kDefaults, mimeType))) {
+      if (IsInstalled(id)) return std::move(id);
     }
   }
   return std::nullopt;
+}
+
+bool MimeApplications::IsPlainlyChosen(const std::string& mimeType) const {
+  return std::ranges::any_of(DefaultLists(), [&](const std::string& list) {
+    const auto values = KeyFileValues(list, kDefaults, mimeType);
+    const Ids ids = KeyFileList(values.empty() ? std::string_view() : values.front());
+    return !ids.empty() && IsInstalled(ids.front());
+  });
 }
 
 std::vector<std::string> MimeApplications::Openers(const std::string& mimeType) const {
@@ -85,6 +102,10 @@ std::vector<std::string> MimeApplications::Openers(const std::string& mimeType) 
     }());
   };
 
+  for (const std::string& folder : WithApplications(places_.dataFolders)) {
+    const std::string list = IsOnKde() ? std::string() : ReadIfPossible(folder + "/defaults.list");
+    std::ranges::for_each(KeyFileList(KeyFileValue(list, kDefaults, mimeType)), add);
+  }
   std::ranges::for_each(places_.configFolders, addFromList);
   const auto chosenByUser = static_cast<std::ptrdiff_t>(openers.size());
   for (const std::string& folder : WithApplications(places_.dataFolders)) {
@@ -99,9 +120,13 @@ std::vector<std::string> MimeApplications::Openers(const std::string& mimeType) 
   return openers;
 }
 
+bool MimeApplications::IsOnKde() const {
+  return std::ranges::find(places_.desktops, "kde") != places_.desktops.end();
+}
+
 // KDE goes by the preference that entries state for themselves before it goes by their order.
 void MimeApplications::SortByPreference(std::span<std::string> ids) const {
-  if (std::ranges::find(places_.desktops, "kde") == places_.desktops.end()) return;
+  if (!IsOnKde()) return;
   std::ranges::stable_sort(ids, std::ranges::greater(), [this](const std::string& id) {
     const std::string entry = ReadIfPossible(FindEntry(id).value_or(""));
     const std::string_view value = KeyFileValue(entry, kEntry, "InitialPreference");

@@ -21,17 +21,25 @@ class MimeApplications {
   /// "Default Application".
   std::optional<std::string> ChosenDefault(const std::string& mimeType) const;
 
+  /// Whether a program finds one as well that looks only at the first application of the first line
+  /// of each list, as xdg-mime does.
+  bool IsPlainlyChosen(const std::string& mimeType) const;
+
   /// All that are registered for that very type and installed; where none has been chosen, the
-  /// first is the default: "Adding/removing associations".
+  /// first is the default: "Adding/removing associations". Before them come, but on KDE, which does
+  /// not know them, the defaults of the older files called defaults.list.
   std::vector<std::string> Openers(const std::string& mimeType) const;
 
   /// The file of a desktop entry: the Desktop Entry Specification, "Desktop File ID".
   std::optional<std::string> FindEntry(const std::string& id) const;
 
+  bool IsInstalled(const std::string& id) const;
+
  private:
   using Ids = std::vector<std::string>;
 
-  bool IsInstalled(const std::string& id) const;
+  std::vector<std::string> DefaultLists() const;
+  bool IsOnKde() const;
   void SortByPreference(std::span<std::string> ids) const;
 
   const DesktopPlaces& places_;

@@ -115,6 +115,7 @@ TEST_F(HostShellTest, LeavesTheProgramToItself) {
              "  [ -e /proc/$$/fd/57 ] && echo inherits\n"
              "  [ \"$(cut -d' ' -f6 /proc/$$/stat)\" = $$ ] && echo leads its session\n"
              "  sh -c 'kill -PIPE $$; echo deaf'; } >\"$here/report\"");
+  PutFile(folder_ / "text", "");
   const auto report = [this] {
     Start("browser", " x");
     return report_.Read();
@@ -122,7 +123,8 @@ TEST_F(HostShellTest, LeavesTheProgramToItself) {
   EXPECT_TRUE(InProcess([&] {
     ::setenv("HOME", folder_.Path().c_str(), 1);
     ::setenv("PROBE", "as before", 1);
-    std::signal(SIGPIPE, SIG_IGN);
+    for (const int ignored : {SIGPIPE, SIGCHLD}) std::signal(ignored, SIG_IGN);
+    EXPECT_EQ(Failure("text"), folder_.System("text") + ": Permission denied");
     ::dup2(STDOUT_FILENO, 57);
     EXPECT_EQ(report(), folder_.Path() + " as before /dev/null\nleads its session\n");
     ::setenv("HOME", (folder_ / "gone").c_str(), 1);
