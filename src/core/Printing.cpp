@@ -3,6 +3,7 @@
 #include "core/Application.h"
 #include "core/Hourglass.h"
 #include "core/frmMain.h"
+#include "core/general1.h"
 #include "services/Dialogs.h"
 #include "services/Error.h"
 #include "services/Printer.h"
@@ -10,7 +11,8 @@
 namespace tagsmith {
 namespace {
 
-// No page range, the device context handed back, no printing into a spool file.
+// No page range, the device context handed back. The flag for "no file" is among them too, but a
+// desktop without a printer has only its PDF file: the dialog offers it all the same.
 constexpr int kPrintDialogFlags = 1048840;
 
 PageRequest FirstPage(Printer& printer, Twips left, Twips top, Twips right, Twips bottom) {

@@ -8,9 +8,10 @@
 namespace tagsmith {
 
 class Application;
+class RichTextBox;
 
-// The small path and text routines that all subsystems share. A path is a text with backslashes
-// between its parts; none of these looks at the disk but FileExists.
+// The small routines that all subsystems share. A path is a text with backslashes between its
+// parts; none of these looks at the disk but FileExists.
 
 /// The text without the blanks at its ends; blanks only, no other white space.
 std::string_view Trim(std::string_view text);
@@ -47,5 +48,11 @@ int GetColorByte(Colour colour, int index);
 /// The decimal number with which the text begins, blanks in front passed over; what stands behind
 /// it is ignored. 0 for a text that does not begin with one.
 double Val(std::string_view text);
+
+/// Prints the whole text of `pane` on the printer of its form's platform, a page at a time, with
+/// these margins from the paper's edges. Throws `Error` when the printer fails, and when the
+/// margins leave no room for a line.
+void PrintRichText(RichTextBox& pane, Twips leftMargin, Twips topMargin, Twips rightMargin,
+                   Twips bottomMargin);
 
 }  // namespace tagsmith

@@ -2,11 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QPrintDialog>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QSpinBox>
+#include <functional>
+#include <utility>
 
 #include "Program.h"
-#include "core/Printing.h"
+#include "core/general1.h"
 #include "services/Error.h"
 #include "services/desktop/system/QtPrinter.h"
 
@@ -28,6 +34,21 @@ class PrintedPages : public ::testing::Test {
     Pane().SetText(text);
     Device().setOutputFileName(QString::fromStdString(file_));
     PrintRichText(Pane(), 1440, 1440, 1440, 1440);
+    Read();
+  }
+
+  // Prints by the command; `act` sets the dialog up.
+  void PrintByDialog(const std::function<void(QDialog&)>& act) {
+    QTimer timer;
+    timer.callOnTimeout([&] {
+      auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+      if (dialog == nullptr) return;
+      timer.stop();
+      act(*dialog);
+      dialog->accept();
+    });
+    timer.start(5);
+    program_.Form().mnuFilePrint.Click();
     Read();
   }
 
@@ -118,23 +139,23 @@ TEST_F(PrintedPages, WrapALineThatIsLongerThanAPage) {
   ExpectMargins(pages_);
 }
 
-TEST_F(PrintedPages, KeepToRangeOrderAndCopiesOfTheDialog) {
-  std::string text;
-  for (char line = '0'; line < '5'; ++line) text += std::string(3000, line) + "\r\n";
-  Device().setCopyCount(2);
-  Device().setPageOrder(QPrinter::LastPageFirst);
-  Print(text);
-  const std::size_t whole = pages_.size();
-  EXPECT_EQ(whole % 2, 0U);
-  EXPECT_EQ(text_.front(), '4');
-  Device().setPrintRange(QPrinter::PageRange);
-  Device().setFromTo(2, 2);
-  Print(text);
-  EXPECT_EQ(pages_.size(), 2U);
-  Device().setFromTo(1, 99);
-  Device().setCollateCopies(false);
-  Print(text);
-  EXPECT_EQ(pages_.size(), whole);
+TEST_F(PrintedPages, KeepToOrderAndCopiesOfTheDialog) {
+  FontSpec font = Pane().SelFont();
+  font.size = 150;  // A letter a page.
+  Pane().SetSelFont(font);
+  Pane().SetText("a\nb\nc");
+  Device().setPageSize(QPageSize(QPageSize::A6));
+  Device().setOutputFileName("x.pdf");  // A file it is, whatever printers there are.
+  for (const auto& [collate, pages] : {std::pair(true, "cbacba"), std::pair(false, "ccbbaa")}) {
+    file_ = (user_ / pages).string();
+    PrintByDialog([this, collate = collate](QDialog& dialog) {
+      dialog.findChild<QLineEdit*>("filename")->setText(QString::fromStdString(file_));
+      dialog.findChild<QSpinBox*>("copies")->setValue(2);
+      dialog.findChild<QCheckBox*>("reverse")->setChecked(true);
+      dialog.findChild<QCheckBox*>("collate")->setChecked(collate);
+    });
+    EXPECT_EQ(text_, pages);
+  }
 }
 
 TEST_F(PrintedPages, JobThatFailsLeavesTheOldFile) {

@@ -230,6 +230,26 @@ void SetStart(QFileDialog& dialog, const QString& directory, const QString& file
   if (!fileName.isEmpty() && (isBare || liesThere)) dialog.selectFile(file.fileName());
 }
 
+// --- Printing ---
+
+// Qt shows page ranges also when no option asks for them, and leaves them to CUPS: a PDF file
+// comes out whole, and of a reversed job other pages than those that were meant. All that stays is
+// the choice between everything and the selection.
+void PutRangesAway(QPrintDialog& dialog, bool offerSelection) {
+  auto* ranges = dialog.findChild<QWidget*>(QStringLiteral("gbPrintRange"));
+  if (ranges == nullptr) return;
+  // The dialog shows them again for every printer, but nothing is seen inside what is hidden.
+  auto* drawer = new QWidget(&dialog);
+  drawer->hide();
+  if (!offerSelection) return ranges->setParent(drawer);
+  for (auto* control : ranges->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+    const QString name = control->objectName();
+    if (name != QLatin1String("printAll") && name != QLatin1String("printSelection")) {
+      control->setParent(drawer);
+    }
+  }
+}
+
 }  // namespace
 
 QtDialogs::QtDialogs(WindowOf windowOf, PathMap toHost, PathMap toSystem, QtPrinter& printer)
@@ -314,11 +334,10 @@ std::optional<FontSpec> QtDialogs::PickFont(Form& owner, const FontSpec& start) 
 
 bool QtDialogs::PickPrinter(Form& owner, bool offerSelection) {
   ModalDialog dialog(new QPrintDialog(&printer_.Device(), ParentFor(owner)));
-  // No page range is offered, nor the page of the caret. Some dialogs show a range all the same:
-  // the printer keeps to it.
   dialog->setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies |
                      QAbstractPrintDialog::PrintShowPageSize);
   dialog->setOption(QAbstractPrintDialog::PrintSelection, offerSelection);
+  PutRangesAway(*dialog, offerSelection);
   return dialog.Run() == QDialog::Accepted;
 }
 

@@ -62,17 +62,11 @@ void CheckJobTaken() {
   Fail(ErrorCode::kDeviceUnavailable, QString::fromUtf8(lastText()));
 }
 
-// The pages that the dialog asks for, from 0, in the order and as often as they are to come out:
-// what the print system does not do by itself is left to the program.
+// The pages, from 0, in the order and as often as they are to come out: what the print system does
+// not do by itself is left to the program.
 std::vector<std::size_t> SheetsOf(const QPrinter& setUp, std::size_t pages) {
-  std::size_t from = 0;
-  std::size_t to = pages;
-  if (setUp.printRange() == QPrinter::PageRange && setUp.fromPage() > 0) {
-    from = std::min(static_cast<std::size_t>(setUp.fromPage()), pages) - 1;
-    to = std::clamp(static_cast<std::size_t>(setUp.toPage()), from + 1, pages);
-  }
-  std::vector<std::size_t> once(to - from);
-  std::iota(once.begin(), once.end(), from);
+  std::vector<std::size_t> once(pages);
+  std::iota(once.begin(), once.end(), std::size_t{0});
   const bool backwards = setUp.pageOrder() == QPrinter::LastPageFirst;
   if (backwards) std::reverse(once.begin(), once.end());
 

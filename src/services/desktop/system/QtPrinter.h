@@ -11,7 +11,7 @@
 namespace tagsmith {
 
 /// A page of a job of Qt's printer. Drawing on it is only noted, and done when the job is
-/// committed: a job that is given up leaves nothing behind, neither paper nor half a file.
+/// committed: a job that is given up before leaves nothing behind, neither paper nor half a file.
 class QtDeviceContext final : public DeviceContext {
  public:
   using Drawing = std::function<void(QPainter&)>;
@@ -23,7 +23,7 @@ class QtDeviceContext final : public DeviceContext {
   QPainter& Measure() const { return measure_; }
   int ToPixels(Twips length) const;
 
-  /// `drawing` may throw `Error` to end the job, and takes with it what it needs until then.
+  /// `drawing` takes with it what it needs until then. It does not throw: Qt takes no job back.
   void Draw(Drawing drawing) { drawings_.push_back(std::move(drawing)); }
   /// Draws what was noted.
   void Render(QPainter& painter) const;
@@ -34,7 +34,9 @@ class QtDeviceContext final : public DeviceContext {
 };
 
 /// The printer of the desktop, through Qt and its print system (CUPS), or a PDF file. The printable
-/// area is the whole paper.
+/// area is the whole paper. A PDF file is old or new, unless its folder takes no new file: then it
+/// is written in place. Qt cannot abort a job for CUPS that has begun, and does not notice when it
+/// fills the disk of temporary files: a part may be printed then.
 class QtPrinter final : public Printer {
  public:
   QtPrinter();

@@ -216,6 +216,11 @@ TEST_F(FileDialogs, SaveTakesTheNameAsTypedAndNeverAsks) {
   EXPECT_EQ(Ask(true, Choose("new")), PathOf("new.html"));
 }
 
+bool Shows(const QDialog& dialog, const char* name) {
+  const auto* control = dialog.findChild<QWidget*>(name);
+  return control != nullptr && control->isVisible();
+}
+
 TEST_F(DesktopDialogs, PrintDialogOffersWhatIsPrintedAndSetsUpThePrinter) {
   const QTemporaryDir folder;
   printer_.Device().setOutputFileName(folder.filePath("out.pdf"));
@@ -225,8 +230,14 @@ TEST_F(DesktopDialogs, PrintDialogOffersWhatIsPrintedAndSetsUpThePrinter) {
       auto& dialog = dynamic_cast<QPrintDialog&>(box);
       EXPECT_EQ(dialog.parentWidget(), window_.get());
       EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-      EXPECT_EQ(dialog.testOption(QAbstractPrintDialog::PrintSelection), selection);
-      EXPECT_FALSE(dialog.testOption(QAbstractPrintDialog::PrintPageRange));
+      for (auto* button : dialog.findChildren<QPushButton*>()) {
+        if (button->text().contains("Options")) button->click();
+      }
+      EXPECT_TRUE(Shows(dialog, "copies"));
+      EXPECT_EQ(Shows(dialog, "printSelection"), selection);
+      for (const char* range : {"printRange", "pagesRadioButton", "pageSetCombo"}) {
+        EXPECT_FALSE(Shows(dialog, range)) << range;
+      }
       selection ? dialog.reject() : dialog.accept();
     });
     EXPECT_EQ(dialogs_.PickPrinter(form_, selection), !selection);
