@@ -21,6 +21,18 @@ std::string Application::GetSetting(std::string_view section, std::string_view k
 void Application::SaveSetting(std::string_view section, std::string_view key,
                               std::string_view value) {
   platform.settings.SaveSetting(kApplicationTitle, section, key, value);
+  TellOfLostSettings();
+}
+
+// Once in a run, and not before there is a form that can tell.
+void Application::TellOfLostSettings() {
+  if (toldOfLostSettings_ || platform.forms.Active() == nullptr) return;
+  const std::string trouble = platform.settings.Trouble();
+  if (trouble.empty()) return;
+  toldOfLostSettings_ = true;
+  MsgBox(*platform.forms.Active(),
+         "The settings are kept until Tagsmith ends, but cannot be stored:\n\n" + trouble,
+         kInformationIcon, Title());
 }
 
 std::string Application::GetSetting(const Setting& setting) const {

@@ -82,7 +82,10 @@ class Application {
   std::int32_t FoundPos = 0;
 
  private:
+  void TellOfLostSettings();
+
   frmMain* gMainForm_ = nullptr;
+  bool toldOfLostSettings_ = false;
 };
 
 }  // namespace tagsmith

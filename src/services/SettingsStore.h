@@ -18,6 +18,10 @@ class SettingsStore {
   /// Stores the text at once. Never fails: what cannot be written is kept for the present run.
   virtual void SaveSetting(std::string_view application, std::string_view section,
                            std::string_view key, std::string_view value) = 0;
+
+  /// What keeps texts from being stored for the next run: the place and the platform's reason, in
+  /// UTF-8. Empty while all are stored.
+  virtual std::string Trouble() const { return {}; }
 };
 
 }  // namespace tagsmith

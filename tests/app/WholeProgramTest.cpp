@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include "Program.h"
+#include "core/SettingsKeys.h"
 
 namespace tagsmith {
 namespace {
@@ -119,7 +120,11 @@ TEST(WholeProgram, FilesAndSettingsThatTheUserMayNotTouch) {
     EXPECT_FALSE(form.LoadText(user.SystemPath("secret.html")));
     form.txtEdit.SetSelText("edit");
     form.mnuFileSave.Click();
-    EXPECT_EQ(answers.Texts().size(), 2U);
+    form.mnuRefreshDriveLists.Click();
+    for (const char* symbol : {"#", "%"})
+      program.App().SaveSetting(settings::kBlockComment, symbol);
+    ASSERT_EQ(answers.Texts().size(), 3U);
+    EXPECT_TRUE(answers.Texts().back().ends_with("settings.json: Permission denied"));
     EXPECT_TRUE(form.DocumentChanged());
     form.MarkUnchanged();
     EXPECT_TRUE(form.Unload());

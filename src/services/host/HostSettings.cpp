@@ -48,9 +48,14 @@ void HostSettings::SaveSetting(std::string_view application, std::string_view se
                             std::string(value));
   try {
     Store();
-  } catch (const std::exception&) {
+  } catch (const std::exception& error) {
     // The texts stay in `unsaved_`.
+    trouble_ = error.what();
   }
+}
+
+std::string HostSettings::Trouble() const {
+  return unsaved_.empty() ? std::string() : path_ + ": " + trouble_;
 }
 
 HostSettings::Stamp HostSettings::StampNow() const {
@@ -84,6 +89,7 @@ void HostSettings::Read() const {
     const bool damaged =
         code == ErrorCode::kNotARegularFile || code == ErrorCode::kPermissionDenied;
     // Other failures pass; what was known before still holds.
+    trouble_ = error.what();
     state_ = absent ? State::kGood : damaged ? State::kDamaged : State::kOutOfReach;
     if (absent || damaged) stored_.clear();
   }

@@ -26,6 +26,7 @@ class HostSettings : public SettingsStore {
                          std::string_view key, std::string_view fallback) const override;
   void SaveSetting(std::string_view application, std::string_view section, std::string_view key,
                    std::string_view value) override;
+  std::string Trouble() const override;
 
  private:
   // Tells one state of the file from another; all 0 when there is none.
@@ -52,6 +53,7 @@ class HostSettings : public SettingsStore {
   mutable State state_ = State::kUnread;
   mutable Stamp stamp_;
   mutable SettingsTable stored_;  ///< What the file held when it had `stamp_`.
+  mutable std::string trouble_;   ///< Why the last reading or storing failed.
   SettingsTable unsaved_;         ///< Texts that are not in the file; they go before `stored_`.
 };
 

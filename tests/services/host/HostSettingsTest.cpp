@@ -81,8 +81,10 @@ TEST_F(HostSettingsTest, WhatCannotBeWrittenLastsForTheRunAndIsTriedAgain) {
   Save(settings, "a", "first");
   Save(settings, "a", "second");
   EXPECT_EQ(Get(settings, "a"), "second");
+  EXPECT_TRUE(settings.Trouble().ends_with(": Not a directory"));
   fs::remove(folder_ / "config");
   Save(settings, "b", "third");
+  EXPECT_EQ(settings.Trouble(), "");
   EXPECT_EQ(Get(HostSettings(path_), "a"), "second");
   EXPECT_EQ(Get(HostSettings(path_), "b"), "third");
 }
