@@ -2,6 +2,7 @@
 
 #include "core/Application.h"
 #include "core/FileLists.h"
+#include "core/Hourglass.h"
 #include "core/general1.h"
 #include "services/Error.h"
 #include "services/Pictures.h"
@@ -26,7 +27,8 @@ constexpr TwipsRect kFileListPlace{75, 1620, 2400, 0};
 constexpr TwipsRect kOkPlace{0, 0, 1125, 435};
 /// While there is no picture: as much as the smallest form has room for.
 constexpr TwipsRect kPicturePlace{2580, 90, 3810, 4545};
-constexpr Colour kEmptyGround = 0x808080;
+constexpr Colour kEmptyGround = 0xA0A0A0;  ///< As an image shows itself without a picture.
+constexpr TwipsRect kProblemPlace{2730, 240, 3510, 4245};
 
 }  // namespace
 
@@ -54,16 +56,13 @@ void frmImageView::PlaceControls() {
   MyFileList.Move(kFileListPlace);
   cmdOK.Move(kOkPlace);
   imgView.Move(kPicturePlace);
-  ShowBorder();
+  imgView.SetHasBorder(true);
+  lblProblem.Move(kProblemPlace);
+  lblProblem.SetForeColor(kBlack);
+  lblProblem.SetBackColor(kEmptyGround);
+  lblProblem.SetVisible(false);
+  lblProblem.SetPlainCaption(true);
   Form_Resize();
-}
-
-// One pixel around the picture. What shines through stands on white, as on most pages.
-void frmImageView::ShowBorder() {
-  const TwipsRect& inner = imgView.Bounds();
-  shpBorder.Move({inner.left - kTwipsPerPixel, inner.top - kTwipsPerPixel,
-                  inner.width + 2 * kTwipsPerPixel, inner.height + 2 * kTwipsPerPixel});
-  shpBorder.SetFillColor(imgView.GetPicture() ? kWhite : kEmptyGround);
 }
 
 void frmImageView::Form_Resize() {
@@ -78,13 +77,16 @@ void frmImageView::Form_Resize() {
 void frmImageView::MyFileList_Click() {
   const std::string path =
       AddBackslash(MyDirectory.Path()) + MyFileList.List(MyFileList.ListIndex());
+  const Hourglass hourglass(*this);
   imgView.SetPicture(nullptr);  // Two large ones at a time are too much.
+  lblProblem.SetVisible(false);
   try {
     imgView.SetPicture(application_.platform.pictures.LoadPicture(path));
-  } catch (const Error&) {  // Not to be read as a picture.
+  } catch (const Error& error) {
     imgView.Move(kPicturePlace);
+    lblProblem.SetCaption(error.what());
+    lblProblem.SetVisible(true);
   }
-  ShowBorder();
 }
 
 }  // namespace tagsmith::integration

@@ -12,7 +12,7 @@ class Application;
 namespace integration {
 
 /// Shows picture files, one at a time in its natural size. What is larger than the form is cut off
-/// at the form's edge.
+/// at the form's edge, and of what is no picture stands the reason.
 class frmImageView : public Form {
  public:
   explicit frmImageView(Application& application);
@@ -21,13 +21,12 @@ class frmImageView : public Form {
   DirListBox MyDirectory{*this, "MyDirectory"};
   FileListBox MyFileList{*this, "MyFileList"};
   CommandButton cmdOK{*this, "cmdOK"};
-  /// The border of `imgView`, and the ground of a picture that lets it shine through.
-  Shape shpBorder{*this, "shpBorder"};
   Image imgView{*this, "imgView"};
+  /// In its place, why the chosen file is not shown.
+  Label lblProblem{*this, "lblProblem", ""};
 
  private:
   void PlaceControls();
-  void ShowBorder();
   void Form_Resize();
   void MyFileList_Click();
 

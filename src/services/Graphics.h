@@ -84,8 +84,13 @@ class Image : public Control {
   /// A picture of the program's own, by resource name; empty for none.
   const std::string& PictureName() const { return pictureName_; }
   void SetPictureName(std::string_view name);
+  /// Whether a thin border stands around the picture. With it, each pixel of the picture is one on
+  /// the screen, however large the desktop's font makes the form; set before the form is shown.
+  bool HasBorder() const { return hasBorder_; }
+  void SetHasBorder(bool hasBorder) { hasBorder_ = hasBorder; }
 
  private:
+  bool hasBorder_ = false;
   std::shared_ptr<const Picture> picture_;
   std::string pictureName_;
 };

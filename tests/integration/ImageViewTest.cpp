@@ -36,11 +36,14 @@ TEST(ImageView, KeepsThePictureUntilAnotherFileIsClicked) {
     EXPECT_EQ(form.imgView.Bounds(), (TwipsRect{empty.left, empty.top, 450, 300}));
     form.MyDirectory.SetPath("c:\\sub");
     form.MyFileList.Select(0);
-    EXPECT_EQ(form.shpBorder.Width(), 60030);
+    EXPECT_EQ(form.imgView.Width(), 60000);
     form.MyDirectory.SetPath("c:\\");
     form.MyFileList.Select(1);
     EXPECT_EQ(form.imgView.GetPicture(), nullptr);
     EXPECT_EQ(form.imgView.Bounds(), empty);
+    EXPECT_TRUE(form.lblProblem.Visible());
+    form.MyFileList.Select(0);
+    EXPECT_FALSE(form.lblProblem.Visible());
   });
 }
 

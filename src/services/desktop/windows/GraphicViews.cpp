@@ -19,6 +19,15 @@ namespace {
 // pixels of the display are.
 constexpr double kHalfPen = 0.5;
 
+constexpr int kBorder = 1;
+constexpr QColor kEmptyGround(0xA0, 0xA0, 0xA0);
+
+void DrawBorder(QPainter& painter, const QWidget& widget) {
+  painter.setPen(RimColour(widget.palette()));
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.drawRect(QRectF(widget.rect()).adjusted(kHalfPen, kHalfPen, -kHalfPen, -kHalfPen));
+}
+
 }  // namespace
 
 /// A filled rectangle with a thin border.
@@ -36,19 +45,19 @@ class Figure final : public QWidget {
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);
     painter.fillRect(rect(), fill_.isValid() ? fill_ : palette().color(QPalette::Base));
-    painter.setPen(RimColour(palette()));
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.drawRect(QRectF(rect()).adjusted(kHalfPen, kHalfPen, -kHalfPen, -kHalfPen));
+    DrawBorder(painter, *this);
   }
 
  private:
   QColor fill_;
 };
 
-/// A picture or an icon.
+/// A picture or an icon. With a border, what shines through a picture stands on white, as on most
+/// pages, and the place of a missing one is grey.
 class PictureFace final : public QWidget {
  public:
-  PictureFace(double scale, QWidget* parent) : QWidget(parent), scale_(scale) {}
+  PictureFace(double scale, bool hasBorder, QWidget* parent)
+      : QWidget(parent), scale_(hasBorder ? 1 : scale), border_(hasBorder ? kBorder : 0) {}
 
   void SetPicture(const QImage& picture, const QIcon& icon) {
     picture_ = picture;
@@ -60,13 +69,16 @@ class PictureFace final : public QWidget {
   void paintEvent(QPaintEvent* /*event*/) override {
     QPainter painter(this);
     if (!icon_.isNull()) icon_.paint(&painter, rect(), Qt::AlignLeft | Qt::AlignTop);
-    if (picture_.isNull()) return;
+    if (border_ > 0) painter.fillRect(rect(), picture_.isNull() ? kEmptyGround : QColor(Qt::white));
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(QRectF(QPointF(), QSizeF(picture_.size()) * scale_), picture_);
+    painter.drawImage(QRectF(QPointF(border_, border_), QSizeF(picture_.size()) * scale_),
+                      picture_);
+    if (border_ > 0) DrawBorder(painter, *this);
   }
 
  private:
   double scale_;
+  int border_;
   QImage picture_;
   QIcon icon_;
 };
@@ -145,7 +157,8 @@ void PictureBoxView::Resized() {
 }
 
 ImageView::ImageView(Image& control, ViewHost& host, QWidget& parent)
-    : ViewOf(control, host), face_(new PictureFace(host.Scale().Factor(), &parent)) {
+    : ViewOf(control, host),
+      face_(new PictureFace(host.Scale().Factor(), control.HasBorder(), &parent)) {
   Adopt(face_);
   Update(Property::kPicture);
   Resized();
@@ -161,6 +174,15 @@ void ImageView::Update(Property property) {
 
 void ImageView::Resized() {
   face_->setMinimumSize(Host().Scale().ToPixels(model_.Width(), model_.Height()));
+}
+
+QRect ImageView::WantedPlace() const {
+  QRect place = WidgetView::WantedPlace();
+  if (!model_.HasBorder()) return place;
+  if (const auto& picture = model_.GetPicture()) {
+    place.setSize({picture->WidthInPixels(), picture->HeightInPixels()});
+  }
+  return place.adjusted(-kBorder, -kBorder, kBorder, kBorder);
 }
 
 }  // namespace tagsmith

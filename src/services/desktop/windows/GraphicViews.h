@@ -51,6 +51,7 @@ class ImageView final : public ViewOf<Image> {
  private:
   void Update(Property property) override;
   void Resized() override;
+  QRect WantedPlace() const override;
 
   PictureFace* face_;
 };
