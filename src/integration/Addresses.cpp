@@ -3,6 +3,9 @@
 #include <array>
 
 #include "integration/PageMarkup.h"
+#include "integration/WordCharacters.h"
+#include "services/CaseFold.h"
+#include "services/Utf8.h"
 
 namespace tagsmith::integration {
 namespace {
@@ -30,9 +33,6 @@ bool IsNamePart(unsigned char c) {
   return c >= 0x80 || (c >= '0' && c <= '9') || IsAsciiLetter(static_cast<char>(c));
 }
 
-bool IsSmall(unsigned char c) { return c >= 'a' && c <= 'z'; }
-bool IsCapital(unsigned char c) { return c >= 'A' && c <= 'Z'; }
-
 // What runs on to the next blank, whatever characters it holds.
 bool IsWebAddress(std::string_view piece) {
   const std::size_t colon = piece.find("://");
@@ -47,14 +47,26 @@ bool IsAbsolutePath(std::string_view piece) {
   return IsAsciiLetter(piece.front()) && piece.substr(1, 2) == ":/";
 }
 
+bool IsCapital(char32_t letter) {
+  constexpr char32_t kFinalSigma = 0x3C2;  // Small, though it folds to another letter.
+  return FoldCase(letter) != letter && letter != kFinalSigma;
+}
+
+// Whether the dot at byte `dot`, which has a character on each side, stands between two sentences.
+bool EndsSentence(std::string_view piece, std::size_t dot) {
+  if (!IsCapital(DecodeUtf8(piece, dot + 1).codePoint)) return false;
+  const char32_t before = DecodeUtf8(piece, SnapToCharacter(piece, dot - 1)).codePoint;
+  const CharacterClass kind = ClassOf(before);
+  const bool isLetter = kind == CharacterClass::kLetter || kind == CharacterClass::kMark;
+  return isLetter && !IsCapital(before);
+}
+
 bool IsAddress(std::string_view piece) {
   for (std::size_t i = 0; i < piece.size(); ++i) {
     if (!IsNamePart(ByteAt(piece, i + 1))) continue;
     if (piece[i] == '@' || piece[i] == '\\') return true;
     if (piece[i] != '.' || i == 0) continue;
-    const unsigned char before = ByteAt(piece, i - 1);
-    const bool isSentence = IsSmall(before) && IsCapital(ByteAt(piece, i + 1));
-    if (IsNamePart(before) && !isSentence) return true;
+    if (IsNamePart(ByteAt(piece, i - 1)) && !EndsSentence(piece, i)) return true;
   }
   return IsAbsolutePath(piece);
 }

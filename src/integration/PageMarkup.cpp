@@ -12,10 +12,11 @@ constexpr std::string_view kEnds[] = {">", "-->", "]]>", "?>", "%>"};
 
 std::size_t PageMarkup::Behind(End end, std::size_t from) {
   const auto which = static_cast<std::size_t>(end);
-  if (gone_[which]) return kNone;
+  if (from >= goneFrom_[which]) return kNone;
   const std::size_t found = page_.find(kEnds[which], from);
-  gone_[which] = found == kNone;
-  return gone_[which] ? kNone : found + kEnds[which].size();
+  if (found != kNone) return found + kEnds[which].size();
+  goneFrom_[which] = from;
+  return kNone;
 }
 
 std::size_t PageMarkup::BehindServerCode(std::size_t position) {
@@ -63,16 +64,17 @@ std::size_t PageMarkup::EndOfContents(std::size_t position, std::string_view ele
 }
 
 std::size_t PageMarkup::ClosingQuote(std::size_t from, char quote) {
-  bool& none = quote == '"' ? noQuote_ : noApostrophe_;
+  std::size_t& goneFrom = quote == '"' ? noQuoteFrom_ : noApostropheFrom_;
+  if (from >= goneFrom) return kNone;
   const char stops[] = {quote, '<'};
-  while (!none) {
-    const std::size_t found = page_.find_first_of(std::string_view(stops, 2), from);
-    if (found != kNone && page_[found] == quote) return found;
-    none = found == kNone;
-    if (none) break;
+  for (std::size_t at = from;;) {
+    const std::size_t found = page_.find_first_of(std::string_view(stops, 2), at);
+    if (found == kNone) break;
+    if (page_[found] == quote) return found;
     const std::size_t behind = BehindServerCode(found);
-    from = behind == kNone ? found + 1 : behind;
+    at = behind == kNone ? found + 1 : behind;
   }
+  goneFrom = from;
   return kNone;
 }
 

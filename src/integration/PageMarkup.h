@@ -7,14 +7,14 @@
 namespace tagsmith::integration {
 
 /// Finds the ends of what is no text in the source of a page (UTF-8). Positions are byte offsets.
-/// Asked at rising positions, all searches together read the page once: an end that is not there is
-/// looked for once only.
+/// Asked at rising positions, all searches together read the page a few times at most: an end that
+/// is not there is not looked for again from the same place on.
 class PageMarkup {
  public:
   static constexpr std::size_t kNone = std::string_view::npos;
 
   /// `page` outlives the object.
-  explicit PageMarkup(std::string_view page) : page_(page) {}
+  explicit PageMarkup(std::string_view page) : page_(page) { goneFrom_.fill(kNone); }
 
   /// Where the comment, declaration or server code that begins with the "<" at `position` ends;
   /// kNone when none of them begins there, or when browsers would show it as text.
@@ -47,9 +47,11 @@ class PageMarkup {
   }
 
   std::string_view page_;
-  std::array<bool, static_cast<std::size_t>(End::kCount)> gone_{};
-  bool noQuote_ = false;
-  bool noApostrophe_ = false;
+  // From where on there is none. The search for a quote looks far ahead: what it misses there may
+  // still stand in front of it.
+  std::array<std::size_t, static_cast<std::size_t>(End::kCount)> goneFrom_{};
+  std::size_t noQuoteFrom_ = kNone;
+  std::size_t noApostropheFrom_ = kNone;
 };
 
 /// Whether `c` is one of HTML's white space characters.

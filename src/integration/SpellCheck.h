@@ -55,6 +55,8 @@ class SpellCheck {
   const std::string& Spelling() const { return spelling_; }
   /// The line around the word, in one line, cut where it is long.
   std::string Surroundings() const;
+  /// The name of the dictionary that does not have it.
+  std::string DictionaryName() { return dictionary_.Name(); }
   std::vector<std::string> Suggestions() { return dictionary_.Suggest(spelling_); }
 
   // --- Dealing with it. What holds for all such words holds to the end of the check. ---

@@ -58,6 +58,7 @@ void SpellingCommand::cmdSpellCheck_Click() {
   mySpell_.options.passOverDigits = true;
 
   Try([this] { mySpell_.CheckText(txtEdit_.Text()); });
+  Try([this] { application_.platform.dictionary.RaiseOwnWordsError(); });
   if (ShowNextWord(mySpell_.ResultCode())) {
     Dialog().Show(Modality::kModal, &application_.MainForm());
   }

@@ -13,13 +13,14 @@ namespace {
 
 constexpr Twips kFieldWidth = 3600;
 constexpr Twips kLineWidth = 5400;
+constexpr std::string_view kCaption = "Check Spelling";
 constexpr std::string_view kNoSuggestions = "(No Suggestions)";
 
 }  // namespace
 
 frmSpelling::frmSpelling(Application& application)
     : Form(application.platform, "frmSpelling"), application_(application) {
-  SetCaption("Check Spelling");
+  SetCaption(kCaption);
   const std::pair<CommandButton&, const char*> buttons[] = {
       {cmdChange, "&Change"}, {cmdChangeAll, "Change &All"},
       {cmdIgnore, "&Ignore"}, {cmdIgnoreAll, "I&gnore All"},
@@ -59,7 +60,10 @@ void frmSpelling::ShowWord(SpellCheck& check) {
   txtChange.SetText(check.Spelling());
   lstSuggestions.Clear();
   anySuggestions_ = false;
+  // Where the desktop's own language has no dictionary, the user sees which one is used.
+  SetCaption(std::string(kCaption) + " (" + check.DictionaryName() + ")");
   ShowSuggestions();
+  txtChange.SelectAll();
 }
 
 void frmSpelling::ShowSuggestions() {

@@ -23,6 +23,8 @@ class TextBox : public Control {
   void SetWrapsLines(bool wraps) { wrapsLines_ = wraps; }
   const std::string& Text() const { return text_; }
   void SetText(std::string_view text);
+  /// Selects the text, so that what the user types takes its place.
+  void SelectAll();
 
   Event<> onChange;
   /// A key that makes a character: its code, or 0 to take the key away.

@@ -154,6 +154,17 @@ TEST_F(Spelling, AMissingDictionaryIsToldOnce) {
   EXPECT_EQ(Shown(), "«»teh xyz");
 }
 
+TEST_F(Spelling, OwnWordsThatCannotBeReadDoNotEndTheCheck) {
+  user.desktop.dictionary.ownWordsError = "words.txt: Is a directory";
+  user.desktop.ExpectMsgBox("words.txt: Is a directory", kOkOnly, "Tagsmith");
+  Check("«»teh xyz", [this](frmSpelling& form) {
+    EXPECT_EQ(form.Caption(), "Check Spelling (en_US)");
+    form.cmdChange.Click();
+    EXPECT_EQ(Shown(), "the «xyz»");
+    form.cmdCancel.Click();
+  });
+}
+
 TEST_F(Spelling, WhatTheUserTypesBetweenTwoWordsDoesNoHarm) {
   user.desktop.onDoEvents = [this] {
     user.form.txtEdit.SetText("x\r");

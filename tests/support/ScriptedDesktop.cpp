@@ -68,8 +68,8 @@ class ScriptedDesktop::ScriptedFormView : public FormView {
   Form& form_;
 };
 
-ScriptedDesktop::ScriptedDesktop()
-    : platform{.windows = *this,
+ScriptedDesktop::ScriptedDesktop(WindowSystem* windows)
+    : platform{.windows = windows != nullptr ? *windows : *this,
                .dialogs = *this,
                .clipboard = clipboard,
                .keyboard = *this,

@@ -178,7 +178,9 @@ class ScriptedDictionary : public Dictionary {
   std::vector<std::string> learnt;
   /// What each call fails with; empty for none.
   std::string failure;
+  std::string ownWordsError;
 
+  std::string Name() override { return "en_US"; }
   bool Knows(std::string_view word) override {
     asked.emplace_back(word);
     if (!failure.empty()) throw Error(ErrorCode::kFileNotFound, failure);
@@ -193,6 +195,10 @@ class ScriptedDictionary : public Dictionary {
     learnt.emplace_back(word);
     if (!failure.empty()) throw Error(ErrorCode::kPermissionDenied, failure);
   }
+  void RaiseOwnWordsError() override {
+    if (ownWordsError.empty()) return;
+    throw Error(ErrorCode::kPermissionDenied, std::exchange(ownWordsError, {}));
+  }
 };
 
 /// A desktop without a screen. The test lays down the answers to the questions that will be asked,
@@ -204,7 +210,8 @@ class ScriptedDesktop : private WindowSystem,
                         private EventQueue,
                         private PictureLoader {
  public:
-  ScriptedDesktop();
+  /// `windows` are real ones, where the test has them.
+  explicit ScriptedDesktop(WindowSystem* windows = nullptr);
   ~ScriptedDesktop() override;
   ScriptedDesktop(const ScriptedDesktop&) = delete;
   ScriptedDesktop& operator=(const ScriptedDesktop&) = delete;

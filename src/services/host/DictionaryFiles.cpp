@@ -173,12 +173,12 @@ std::optional<Distance> DistanceOf(const LanguageName& name, const LanguageName&
 
 struct Candidate {
   Distance distance;
-  std::string name;
   std::size_t folder = 0;  // Its place in the search.
   DictionaryFiles files;
 
   bool operator<(const Candidate& other) const {
-    return std::tie(distance, name, folder) < std::tie(other.distance, other.name, other.folder);
+    return std::tie(distance, files.name, folder) <
+           std::tie(other.distance, other.files.name, other.folder);
   }
 };
 
@@ -195,7 +195,7 @@ std::vector<Candidate> CandidatesFor(const std::string& language,
       const std::string name = path.stem();
       const std::optional<Distance> distance = DistanceOf(ParseLanguage(name), wanted);
       if (!distance) continue;
-      candidates.push_back({*distance, name, i, {path, fs::path(path).replace_extension(".dic")}});
+      candidates.push_back({*distance, i, {name, path, fs::path(path).replace_extension(".dic")}});
     }
   }
   std::ranges::sort(candidates, std::less<>());

@@ -22,8 +22,9 @@ struct DictionarySearch {
   static DictionarySearch OfDesktop();
 };
 
-/// The two files of a dictionary, as host paths.
+/// The two files of a dictionary, with host paths.
 struct DictionaryFiles {
+  std::string name;  ///< What both are called after: "en_US".
   std::string affixes;
   std::string words;
 };

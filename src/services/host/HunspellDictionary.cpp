@@ -64,8 +64,11 @@ struct Hash : std::hash<std::string_view> {
 class HunspellDictionary::Loaded {
  public:
   explicit Loaded(const DictionaryFiles& files)
-      : hunspell_(files.affixes.c_str(), files.words.c_str()),
+      : name_(files.name),
+        hunspell_(files.affixes.c_str(), files.words.c_str()),
         encoding_(hunspell_.get_dict_encoding()) {}
+
+  const std::string& Name() const { return name_; }
 
   bool Knows(std::string_view word) {
     if (!HasApostrophe(word)) return Has(word);
@@ -102,6 +105,7 @@ class HunspellDictionary::Loaded {
            !IsCommand(word) && encoding_.Encode(word, bytes_);
   }
 
+  std::string name_;
   Hunspell hunspell_;
   DictionaryEncoding encoding_;
   /// The user's own words in all their forms. Hunspell has them too, for its suggestions, but does
@@ -122,13 +126,24 @@ HunspellDictionary::Loaded& HunspellDictionary::Load() {
   if (loaded_ != nullptr) return *loaded_;
   try {
     auto loaded = std::make_unique<Loaded>(FindDictionary(search_));
-    for (const std::string& word : ownWords_.Read()) loaded->Add(word);
+    AddOwnWords(*loaded);
     loaded_ = std::move(loaded);
   } catch (const std::bad_alloc&) {
     throw SystemError(ENOMEM);
   }
   return *loaded_;
 }
+
+// Without them the dictionary is of use all the same.
+void HunspellDictionary::AddOwnWords(Loaded& loaded) {
+  try {
+    for (const std::string& word : ownWords_.Read()) loaded.Add(word);
+  } catch (const Error& error) {
+    ownWordsError_ = error;
+  }
+}
+
+std::string HunspellDictionary::Name() { return Load().Name(); }
 
 bool HunspellDictionary::Knows(std::string_view word) { return Load().Knows(word); }
 
@@ -143,6 +158,13 @@ std::vector<std::string> HunspellDictionary::Suggest(std::string_view word) {
 void HunspellDictionary::Learn(std::string_view word) {
   Load().Add(word);
   ownWords_.Keep(word);
+}
+
+void HunspellDictionary::RaiseOwnWordsError() {
+  if (!ownWordsError_) return;
+  const Error error = *ownWordsError_;
+  ownWordsError_.reset();
+  throw error;
 }
 
 }  // namespace tagsmith

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "services/Dictionary.h"
+#include "services/Error.h"
 #include "services/host/DictionaryFiles.h"
 #include "services/host/OwnWords.h"
 
@@ -26,16 +28,20 @@ class HunspellDictionary final : public Dictionary {
   /// "words.txt" beside the settings.
   static std::string DefaultWordsFile();
 
+  std::string Name() override;
   bool Knows(std::string_view word) override;
   std::vector<std::string> Suggest(std::string_view word) override;
   void Learn(std::string_view word) override;
+  void RaiseOwnWordsError() override;
 
  private:
   class Loaded;
 
   Loaded& Load();
+  void AddOwnWords(Loaded& loaded);
 
   OwnWords ownWords_;
+  std::optional<Error> ownWordsError_;
   DictionarySearch search_;
   std::unique_ptr<Loaded> loaded_;
 };

@@ -45,8 +45,12 @@ std::vector<std::string> WordsIn(std::string_view bytes) {
   return words;
 }
 
+Error About(const std::string& path, const Error& error) {
+  return {error.Code(), path + ": " + error.what()};
+}
+
 Error TooLarge(const std::string& path) {
-  return {ErrorCode::kOther, path + " is too large for a list of words."};
+  return About(path, {ErrorCode::kOther, "The file is too large for a list of words"});
 }
 
 // The file's bytes; none where there is no file. Throws for one that cannot be read.
@@ -56,20 +60,22 @@ std::string ReadBytes(const std::string& path) {
   } catch (const Error& error) {
     const ErrorCode code = error.Code();
     if (code == ErrorCode::kFileNotFound || code == ErrorCode::kPathNotFound) return {};
-    throw;
+    throw About(path, error);
   }
   throw TooLarge(path);
 }
 
-}  // namespace
-
-std::vector<std::string> OwnWords::Read() const {
+void WriteBytes(const std::string& path, std::string_view bytes) {
   try {
-    return WordsIn(ReadBytes(path_));
-  } catch (const Error&) {
-    return {};
+    WriteSafely({path, {}}, bytes, Durability::kWritten);
+  } catch (const Error& error) {
+    throw About(path, error);
   }
 }
+
+}  // namespace
+
+std::vector<std::string> OwnWords::Read() const { return WordsIn(ReadBytes(path_)); }
 
 void OwnWords::Keep(std::string_view word) {
   const std::string_view trimmed = Trim(word);
@@ -95,7 +101,7 @@ void OwnWords::Store() {
     kept.push_back(word);
   }
   if (bytes.size() >= kMostBytes) throw TooLarge(path_);
-  if (bytes.size() != oldSize) WriteSafely({path_, {}}, bytes, Durability::kWritten);
+  if (bytes.size() != oldSize) WriteBytes(path_, bytes);
   unsaved_.clear();
 }
 

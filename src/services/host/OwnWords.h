@@ -7,13 +7,13 @@
 namespace tagsmith {
 
 /// The user's own words in a file: UTF-8, one a line. Several running programs may share it. Lines
-/// that are no words are passed over and stay in the file.
+/// that are no words are passed over and stay in the file. Errors name what they are about.
 class OwnWords {
  public:
   /// `path` is the file's host path. Its folder is made when it is needed.
   explicit OwnWords(std::string path) : path_(std::move(path)) {}
 
-  /// The words of the file as far as it can be read.
+  /// The words of the file, none where there is no file. Throws `Error` when it cannot be read.
   std::vector<std::string> Read() const;
 
   /// Puts `word` (UTF-8) behind what the file holds now, unless it is there. Throws `Error` when it

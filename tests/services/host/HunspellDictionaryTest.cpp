@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <map>
 
 #include "services/host/TemporaryFolder.h"
@@ -36,12 +37,20 @@ class HunspellDictionaryTest : public testing::Test {
   static void ExpectKnown(HunspellDictionary& dictionary, const Texts& words, bool known = true) {
     for (const std::string& word : words) EXPECT_EQ(dictionary.Knows(word), known) << word;
   }
+  static std::string TextThrownBy(const std::function<void()>& action) {
+    try {
+      action();
+    } catch (const Error& error) {
+      return error.what();
+    }
+    return {};
+  }
   // The name of the dictionary that is found in the folder.
   std::string Found(std::map<std::string, std::string> variables) {
     DictionarySearch search =
         DictionarySearch::By([&variables](const char* variable) { return variables[variable]; });
     search.folders = {folder_.Path()};
-    return fs::path(FindDictionary(search).words).stem();
+    return FindDictionary(search).name;
   }
 
   TemporaryFolder folder_;
@@ -81,13 +90,8 @@ TEST_F(HunspellDictionaryTest, FilesThatAreNoDictionaryDoNotCount) {
   fs::remove(folder_ / "de_CH.aff");
   fs::remove(folder_ / "en_US.aff");
   HunspellDictionary none(words_, {{"de_DE", "en_US"}, {"/not/there", folder_.Path()}});
-  std::string text;
-  try {
-    none.Learn("a");
-  } catch (const Error& error) {
-    text = error.what();
-  }
-  EXPECT_EQ(text, R"(There is no dictionary for "de_DE" or "en_US" in )" + folder_.Path() + '.');
+  EXPECT_EQ(TextThrownBy([&] { none.Learn("a"); }),
+            R"(There is no dictionary for "de_DE" or "en_US" in )" + folder_.Path() + '.');
   EXPECT_EQ(CodeThrownBy([&] { none.Suggest("a"); }), ErrorCode::kFileNotFound);
   PutFile(folder_ / "en_US.aff",
           "SFX S Y 99999\nSFX\nSET\nREP x\n\xFF\xFE\0PFX ? ?\nCOMPOUNDRULE"s);
@@ -156,35 +160,31 @@ TEST_F(HunspellDictionaryTest, ADamagedListGivesWhatIsReadableAndIsKept) {
 TEST_F(HunspellDictionaryTest, WordsThatCannotBeKeptCountForTheRun) {
   fs::create_directories(words_);
   HunspellDictionary dictionary = Open("de_DE");
-  EXPECT_EQ(CodeThrownBy([&] { dictionary.Learn("foo"); }), ErrorCode::kNotARegularFile);
+  EXPECT_EQ(TextThrownBy([&] { dictionary.Learn("foo"); }), words_ + ": Is a directory");
   EXPECT_TRUE(dictionary.Knows("foo"));
+  for (const std::string& told : {words_ + ": Is a directory", ""s}) {
+    EXPECT_EQ(TextThrownBy([&] { dictionary.RaiseOwnWordsError(); }), told);
+  }
   fs::remove(words_);
   const std::string huge(std::size_t{5} << 20U, '\n');
   PutFile(words_, huge);
-  EXPECT_EQ(CodeThrownBy([&] { dictionary.Learn("bar"); }), ErrorCode::kOther);
+  EXPECT_EQ(TextThrownBy([&] { dictionary.Learn("bar"); }),
+            words_ + ": The file is too large for a list of words");
   EXPECT_TRUE(GetFile(words_) == huge);
   InProcess([&] {
     fs::remove(words_);
     fs::permissions(folder_ / "config", fs::perms::owner_read | fs::perms::owner_exec);
     BecomeOrdinaryUser();
-    EXPECT_EQ(CodeThrownBy([&] { dictionary.Learn("baz"); }), ErrorCode::kPermissionDenied);
+    EXPECT_EQ(TextThrownBy([&] { dictionary.Learn("baz"); }), words_ + ": Permission denied");
     EXPECT_TRUE(dictionary.Knows("BAZ"));
   });
   fs::remove(words_);
-  Open("de_CH").Learn("another program's");
+  HunspellDictionary other = Open("de_CH");
+  other.Learn("another program's");
+  other.RaiseOwnWordsError();  // That there was no list yet is no error.
   dictionary.Learn("last");
   EXPECT_EQ(GetFile(words_), "another program's\nfoo\nbar\nlast\n") << "failed words come along";
   EXPECT_EQ(NamesIn(folder_ / "config"), Names{"words.txt"});
-}
-
-TEST_F(HunspellDictionaryTest, TheInstalledDictionaryWorks) {
-  HunspellDictionary dictionary(words_, {{"en_US"}, {"/usr/share/hunspell"}});
-  ExpectKnown(dictionary, {"colour", "speling", "Dont", "Tagsmithy"}, false);
-  ExpectKnown(dictionary, {"color", "Spelling", "don't", "DON’T", "2nd"});
-  EXPECT_EQ(std::ranges::count(dictionary.Suggest("speling"), "spelling"), 1);
-  dictionary.Learn("Tagsmithy");
-  EXPECT_EQ(dictionary.Suggest("Tagsmithyy").front(), "Tagsmithy");
-  EXPECT_EQ(dictionary.Suggest(std::string(61, 'e')), Texts{});
 }
 
 }  // namespace

@@ -99,6 +99,7 @@ void TextBoxView::Resized() {
 }
 
 void TextBoxView::Update(Property property) {
+  if (property == Property::kSelection) line_ != nullptr ? line_->selectAll() : lines_->selectAll();
   if (property != Property::kText) return;
   showing_ = true;
   if (line_ != nullptr) {
