@@ -95,6 +95,8 @@ int BoundCommand(QsciScintilla& pane, const QKeyEvent& key) {
   if (key.key() == Qt::Key_Plus) modifiers &= ~Qt::KeyboardModifiers(Qt::ShiftModifier);
   const QKeyCombination keys(modifiers,
                              keypadEnter ? Qt::Key_Return : static_cast<Qt::Key>(key.key()));
+  // The component has no key for this one.
+  if (keys == QKeyCombination(Qt::CTRL, Qt::Key_0)) return QsciScintillaBase::SCI_SETZOOM;
   const QsciCommand* command = pane.standardCommands()->boundTo(keys.toCombined());
   return command == nullptr ? 0 : command->command();
 }

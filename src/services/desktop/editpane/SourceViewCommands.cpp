@@ -93,6 +93,9 @@ bool SourceView::RunOwnCommand(int command) {
     case QsciCommand::ZoomIn:
       zoomIn();
       return true;
+    case SCI_SETZOOM:
+      zoomTo(0);
+      return true;
     default:
       return false;
   }
