@@ -53,7 +53,8 @@ class DialogWindows : public testing::Test {
       QWidget* window = QApplication::activeModalWidget();
       ASSERT_NE(window, nullptr);
       EXPECT_EQ(window->objectName(), name);
-      ASSERT_TRUE(HasKeyboard(*window));
+      ASSERT_TRUE(
+          QTest::qWaitFor([window] { return window->isAncestorOf(QApplication::focusWidget()); }));
       opened = true;
       act(*window);
       if (QApplication::activeModalWidget() == window) window->close();
@@ -63,9 +64,6 @@ class DialogWindows : public testing::Test {
     EXPECT_TRUE(opened) << button;
   }
 
-  static bool HasKeyboard(const QWidget& window) {
-    return QTest::qWaitFor([&window] { return window.isAncestorOf(QApplication::focusWidget()); });
-  }
   static void Press(QWidget& window, const char* button) {
     QTest::mouseClick(window.findChild<QAbstractButton*>(button), Qt::LeftButton);
   }
@@ -98,16 +96,6 @@ TEST_F(DialogWindows, InsertInOneUndoStepAndKeepTheClipboard) {
          Type("a b.html", {Qt::Key_Tab, Qt::Key_Tab}), Type("_top", {Qt::Key_Enter});
        },
        R"(<P><A HREF="a b.html" Target="_top">Köln</A></P>)"},
-      {"cmdComment", "frmComment", [](QWidget&) { Type("in ", {Qt::Key_Return}); },
-       "<P><!-- in Köln --></P>"},
-      {"cmdFastImage", "frmImage",
-       [](QWidget& window) {
-         Type("ö.gif");
-         window.findChild<QComboBox*>("cboAlign")->setFocus();
-         QTest::keySequence(QApplication::focusWidget(), QKeySequence::SelectAll);
-         Type("Left", {Qt::Key_Return});
-       },
-       R"(<P><IMG Src="ö.gif" Align="Left">Köln</IMG></P>)"},
       {"cmdFastLine", "frmHR",
        [](QWidget& window) {
          window.findChild<QComboBox*>("cboAlign")->setFocus();
@@ -115,9 +103,6 @@ TEST_F(DialogWindows, InsertInOneUndoStepAndKeepTheClipboard) {
          Type("", {Qt::Key_Delete, Qt::Key_Return});
        },
        R"(<P><HR Color="#FFFFFF">Köln</P>)"},
-      {"cmdMarquee", "frmMarquee", [](QWidget& window) { Press(window, "cmdInsert"); },
-       "<P><MARQUEE Align=\"Center\" Behavior=\"Scroll\" Direction=\"Right\" "
-       "BgColor=\"#FFFFFF\">Köln</MARQUEE></P>"},
       {"cmdFastList", "frmLists",
        [](QWidget& window) {
          Press(window, "optAttributes_1");
@@ -188,23 +173,6 @@ TEST_F(DialogWindows, JumpStartShowsThePickedColourAndMakesThePage) {
   EXPECT_EQ(program.Form().DocumentName(), "Untitled.html");
   Undo();
   EXPECT_NE(Text().find("<BODY"), std::string::npos) << "undo leads into the page before";
-}
-
-TEST_F(DialogWindows, FrameDialogAndUserButtonsTakeEffect) {
-  Open("cmdFrameDialog", "frmFrameDialog", [](QWidget& window) { Press(window, "cmdChoice_1"); });
-  EXPECT_NE(Text().find("<FRAMESET ROWS=*,*, 70>"), std::string::npos);
-
-  Put("", 0, 0);
-  const Later later([] {
-    QWidget* window = QApplication::activeModalWidget();
-    ASSERT_TRUE(window != nullptr && HasKeyboard(*window));
-    Type("<Q>", {Qt::Key_Return, Qt::Key_Tab}), Type("</Q>");
-    Press(*window, "cmdSave");
-  });
-  program.Form().mnuUserButtons.Click();
-  program.Form().Get<CommandButton>("cmdUD", 0).Click();
-  EXPECT_EQ(Text(), "<Q>\r\n</Q>");
-  EXPECT_EQ(program.Form().txtEdit.SelStart(), 5U);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <random>
 
 #include "support/MarkedText.h"
@@ -11,47 +12,43 @@
 namespace tagsmith {
 namespace {
 
-// The commands as a person would tell them: step through every position from the selection's start
-// and act where a line begins.
-void CommentByStepping(TextPane& pane, std::string_view symbol) {
+// The commands as a person would tell them: act at the selection's start, then step through every
+// position and act where a line begins.
+void Step(TextPane& pane, const std::function<void()>& actAtStart,
+          const std::function<void()>& actAtLine) {
   const std::size_t start = pane.SelStart();
-  const std::size_t first = pane.LineFromPosition(start);
+  std::size_t current = pane.LineFromPosition(start);
   const std::size_t last = pane.LineFromPosition(start + pane.SelLength());
-  const auto putSymbol = [&] {
-    pane.ReplaceSelection(std::string(symbol) + pane.TextRange(pane.SelStart(), pane.SelLength()));
-  };
-  putSymbol();
-  std::size_t current = first;
-  for (std::size_t i = start; first != last; ++i) {
+  actAtStart();
+  for (std::size_t i = start; current != last; ++i) {
     pane.Select(i, 0);
-    const std::size_t line = pane.LineFromPosition(i);
-    if (line != current) {
-      putSymbol();
-      ++current;
-    }
-    if (line == last) return;
+    if (pane.LineFromPosition(i) == current) continue;
+    actAtLine();
+    ++current;
   }
 }
 
-void UncommentByStepping(TextPane& pane, std::string_view symbol) {
-  const std::size_t start = pane.SelStart();
-  const std::size_t first = pane.LineFromPosition(start);
-  const std::size_t last = pane.LineFromPosition(start + pane.SelLength());
-  const std::string selected = pane.TextRange(start, pane.SelLength());
-  if (selected.starts_with(symbol)) pane.ReplaceSelection(selected.substr(symbol.size()));
-  std::size_t current = first;
-  for (std::size_t i = start; first != last; ++i) {
-    pane.Select(i, 0);
-    const std::size_t line = pane.LineFromPosition(i);
-    if (line != current) {
-      const std::size_t place = pane.SelStart();
-      pane.Select(place, symbol.size());
-      if (pane.TextRange(place, pane.SelLength()) == symbol) pane.ReplaceSelection("");
-      pane.Select(place, 0);
-      ++current;
+std::string Selected(const TextPane& pane) {
+  return pane.TextRange(pane.SelStart(), pane.SelLength());
+}
+
+void CommentByStepping(TextPane& pane, const std::string& symbol) {
+  const auto put = [&] { pane.ReplaceSelection(symbol + Selected(pane)); };
+  Step(pane, put, put);
+}
+
+void UncommentByStepping(TextPane& pane, const std::string& symbol) {
+  const auto take = [&] {
+    if (Selected(pane).starts_with(symbol)) {
+      pane.ReplaceSelection(Selected(pane).substr(symbol.size()));
     }
-    if (line == last) return;
-  }
+  };
+  Step(pane, take, [&] {
+    const std::size_t place = pane.SelStart();
+    pane.Select(place, symbol.size());
+    take();
+    pane.Select(place, 0);
+  });
 }
 
 std::string Marked(const TextPane& pane) {

@@ -6,21 +6,17 @@
 namespace tagsmith {
 namespace {
 
-class Editing : public ::testing::Test {
+class Editing : public testing::Test, protected RunningProgram {
  protected:
   Editing() {
-    program.Begin();
+    Begin();
     form.txtEdit.SetText("äb cd");
     form.MarkUnchanged();
   }
-
-  RunningProgram program;
-  ScriptedDesktop& desktop = program.desktop;
-  frmMain& form = program.form;
 };
 
 TEST_F(Editing, KeysGoToWhateverHasTheFocus) {
-  program.Pane().Select(0, 3);
+  Pane().Select(0, 3);
   form.MyFileList.UserFocus();
   form.mnuEditCut.Click();
   EXPECT_EQ(form.txtEdit.Text(), "äb cd") << "the menu does not move the focus";
@@ -28,7 +24,7 @@ TEST_F(Editing, KeysGoToWhateverHasTheFocus) {
   EXPECT_EQ(form.txtEdit.Text(), " cd");
   EXPECT_TRUE(form.DocumentChanged());
   form.mnuEditUndo.Click();
-  program.Pane().Select(0, 2);
+  Pane().Select(0, 2);
   form.mnuEditCopy.Click();
   form.cmdPaste.Click();
   form.cmdPaste.Click();
@@ -37,7 +33,7 @@ TEST_F(Editing, KeysGoToWhateverHasTheFocus) {
 
 TEST_F(Editing, InsertionsPassThroughTheClipboardAndLeaveItsText) {
   desktop.clipboard.text = "kept";
-  program.Pane().Select(0, 3);
+  Pane().Select(0, 3);
   form.MyDirectory.UserFocus();
   form.InsertAround("<B>", "</B>");
   EXPECT_EQ(form.txtEdit.Text(), "<B>äb</B> cd");
@@ -50,7 +46,7 @@ TEST_F(Editing, InsertionsPassThroughTheClipboardAndLeaveItsText) {
 
   desktop.clipboard.broken = true;
   form.InsertText("ü");
-  program.Pane().Select(0, 3);
+  Pane().Select(0, 3);
   form.InsertAround("(", ")");
   EXPECT_EQ(form.txtEdit.Text(), "(<B>)äb</B><I>éü cd");
   desktop.clipboard.broken = false;
@@ -73,7 +69,7 @@ TEST_F(Editing, InsertsTheDateThatIsChosenOrNone) {
 }
 
 TEST_F(Editing, FontIsStoredOnlyWhenItIsChosen) {
-  program.Pane().Select(4, 2);
+  Pane().Select(4, 2);
   desktop.ExpectFont(std::nullopt);
   form.mnuFonts.Click();
   EXPECT_EQ(form.txtEdit.SelStart(), 0U);

@@ -5,10 +5,12 @@
 namespace tagsmith {
 namespace {
 
-TEST(Layout, FollowsTheWindowAndIsNeverSmallerThanItsLeastSize) {
-  RunningProgram program;
-  program.Begin();
-  frmMain& form = program.form;
+class Layout : public testing::Test, protected RunningProgram {
+ protected:
+  Layout() { Begin(); }
+};
+
+TEST_F(Layout, FollowsTheWindowAndIsNeverSmallerThanItsLeastSize) {
   form.UserResize(12000, 9000);
   EXPECT_EQ(form.txtEdit.Bounds(), (TwipsRect{2160, 1800, 9660, 5890}));
 
@@ -23,10 +25,7 @@ TEST(Layout, FollowsTheWindowAndIsNeverSmallerThanItsLeastSize) {
   EXPECT_EQ(form.Width(), 150) << "a minimised form is left alone";
 }
 
-TEST(Layout, SplitterMovesWithinItsLimitsOnly) {
-  RunningProgram program;
-  program.Begin();
-  frmMain& form = program.form;
+TEST_F(Layout, SplitterMovesWithinItsLimitsOnly) {
   Label& bar = form.lblResizer;
   const auto dragTo = [&bar](Twips place) { bar.MouseMove(kLeftButton, place - bar.Left(), 0); };
 
@@ -45,10 +44,7 @@ TEST(Layout, SplitterMovesWithinItsLimitsOnly) {
   EXPECT_EQ(bar.Left(), 500) << "any button's release ends the drag";
 }
 
-TEST(Layout, ToolbarClicksLeaveTheFocusInThePane) {
-  RunningProgram program;
-  program.Begin();
-  frmMain& form = program.form;
+TEST_F(Layout, ToolbarClicksLeaveTheFocusInThePane) {
   for (SSTab* strip : {&form.MyOuterTab, &form.MyTab, &form.MyTabScript}) {
     form.MyFileList.UserFocus();
     strip->UserFocus();

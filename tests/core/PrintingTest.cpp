@@ -1,5 +1,3 @@
-#include "core/Printing.h"
-
 #include <gtest/gtest.h>
 
 #include "support/RunningProgram.h"
@@ -7,10 +5,10 @@
 namespace tagsmith {
 namespace {
 
-class Printing : public ::testing::Test {
+class Printing : public testing::Test, protected RunningProgram {
  protected:
   Printing() {
-    program.Begin();
+    Begin();
     form.MyFileList.UserFocus();
   }
 
@@ -20,10 +18,7 @@ class Printing : public ::testing::Test {
     return log;
   }
 
-  RunningProgram program;
-  ScriptedDesktop& desktop = program.desktop;
-  frmMain& form = program.form;
-  std::vector<PageRequest>& pages = program.Pane().pages;
+  std::vector<PageRequest>& pages = Pane().pages;
 };
 
 // On a page of these margins 54 bytes fit.
@@ -31,7 +26,7 @@ constexpr std::size_t kBytesOfAPage = (15840 - 2 * 1440) / 240;
 
 TEST_F(Printing, WholeDocumentGoesToPaperPageByPage) {
   form.txtEdit.SetText(std::string(2 * kBytesOfAPage, 'x') + "\xC3\xA4");
-  program.Pane().Select(3, 4);
+  Pane().Select(3, 4);
   desktop.ExpectPrinter(true, true);
   form.mnuFilePrint.Click();
   EXPECT_EQ(Log(), "StartDoc NewPage NewPage EndDoc ");
@@ -44,7 +39,7 @@ TEST_F(Printing, WholeDocumentGoesToPaperPageByPage) {
     EXPECT_NE(pages[i].render, nullptr);
     EXPECT_EQ(pages[i].render, pages[i].measure);
   }
-  EXPECT_FALSE(program.Pane().formatting) << "what was kept for formatting is freed";
+  EXPECT_FALSE(Pane().formatting) << "what was kept for formatting is freed";
   EXPECT_EQ(form.MousePointer(), kDefaultPointer);
   EXPECT_TRUE(form.txtEdit.HasFocus());
 }
@@ -80,16 +75,10 @@ TEST_F(Printing, EveryFailureIsToldAndFreesWhatWasKept) {
     desktop.ExpectMsgBox("Make Sure The Printer Has Paper And Is Online...", kInformationIcon,
                          "Sorry, I Cannot Print...");
     form.mnuFilePrint.Click();
-    EXPECT_FALSE(program.Pane().formatting) << call;
+    EXPECT_FALSE(Pane().formatting) << call;
     EXPECT_EQ(form.MousePointer(), kDefaultPointer) << call;
     EXPECT_TRUE(form.MyFileList.HasFocus()) << call;
   }
-}
-
-TEST_F(Printing, PageWithoutRoomForALineIsAnError) {
-  form.txtEdit.SetText("x");
-  EXPECT_THROW(PrintRichText(form.txtEdit, 0, 15840, 0, 0), Error);
-  EXPECT_EQ(Log(), "StartDoc ") << "no page is put out";
 }
 
 }  // namespace

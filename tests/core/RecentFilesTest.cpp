@@ -10,16 +10,11 @@ constexpr const char* kOpening = "Save Current Before Opening Another File?";
 
 std::string PathOf(int number) { return "c:\\dé\\" + std::to_string(number) + ".html"; }
 
-class Recent : public ::testing::Test {
+class Recent : public testing::Test, protected RunningProgram {
  protected:
   Recent() {
     for (int i = 0; i <= 11; ++i) desktop.files.AddFile(PathOf(i), "é" + std::to_string(i));
-    program.Begin();
-  }
-
-  void Open(const std::string& path) {
-    desktop.ExpectOpenFile(path);
-    form.mnuFileOpen.Click();
+    Begin();
   }
 
   std::string Tabs() const {
@@ -27,10 +22,6 @@ class Recent : public ::testing::Test {
     for (int i = 0; i < 5; ++i) captions += form.MyTabFiles.TabCaption(i) + "|";
     return captions;
   }
-
-  RunningProgram program;
-  ScriptedDesktop& desktop = program.desktop;
-  frmMain& form = program.form;
 };
 
 TEST_F(Recent, KeepsTheTenNewestAndTheFiveNewestTabs) {
@@ -59,7 +50,7 @@ TEST_F(Recent, MenuEntryLoadsItsFileWithoutMovingUp) {
   form.mnuRecentlyUsed(5).Click();
   EXPECT_EQ(form.DocumentName(), PathOf(2)) << "a free entry does nothing";
 
-  program.Pane().Type("ö");
+  Pane().Type("ö");
   desktop.files.Remove(PathOf(1));
   desktop.ExpectMsgBox("The Specified File Cannot Be Found", kInformationIcon,
                        "Error Loading File...");
@@ -75,7 +66,7 @@ TEST_F(Recent, MenuEntryLoadsItsFileWithoutMovingUp) {
 
   // The save on the way moves the entries, not what was asked for.
   form.mnuFileNew.Click();
-  program.Pane().Type("ö");
+  Pane().Type("ö");
   desktop.ExpectMsgBox(kOpening, 35, "Save on Open...", kYes);
   desktop.ExpectSaveFile("c:\\dé\\saved.html");
   form.mnuRecentlyUsed(0).Click();
@@ -91,7 +82,7 @@ TEST_F(Recent, ClickOnATabSwitchesTheDocument) {
   EXPECT_EQ(form.DocumentName(), PathOf(1));
   EXPECT_EQ(form.txtEdit.Text(), "é1");
 
-  program.Pane().Type("ö");
+  Pane().Type("ö");
   desktop.ExpectMsgBox(kOpening, 35, "Save on Open...", kCancel);
   form.MyTabFiles.Select(0);
   EXPECT_EQ(form.MyTabFiles.Tab(), 0);

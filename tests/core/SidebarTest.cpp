@@ -6,9 +6,7 @@
 namespace tagsmith {
 namespace {
 
-constexpr const char* kInsertDisk = "Please Insert A Disk In The Drive First";
-
-class SidebarLists : public ::testing::Test {
+class SidebarLists : public testing::Test, protected RunningProgram {
  protected:
   SidebarLists() {
     desktop.files.AddFile("c:\\site\\Föto.GIF", "");
@@ -17,16 +15,12 @@ class SidebarLists : public ::testing::Test {
     desktop.files.AddDrive('d', "Stück", "c:\\media\\Stück");
     desktop.files.AddDrive('e', "empty", "c:\\media\\none");
   }
-
-  RunningProgram program;
-  ScriptedDesktop& desktop = program.desktop;
-  frmMain& form = program.form;
 };
 
 TEST_F(SidebarLists, RestoreWhatWasStoredAndStoreItAtTheEnd) {
   desktop.settings.values = {{"Settings/Drive", "d: [Stück]"},
                              {"Settings/Dir", "c:\\media\\Stück\\sub"}};
-  program.Begin();
+  Begin();
   EXPECT_EQ(form.MyDrive.Drive(), "d: [Stück]");
   EXPECT_EQ(form.MyDirectory.Path(), "c:\\media\\Stück\\sub");
 
@@ -52,16 +46,16 @@ TEST_F(SidebarLists, FallBackToTheRootWithoutAWord) {
 }
 
 TEST_F(SidebarLists, DriveWithoutADiskLeadsBackToTheFirst) {
-  program.Begin();
+  Begin();
   form.mnuRefreshDriveLists.Click();
-  desktop.ExpectMsgBox(kInsertDisk, kInformationIcon, "Sorry...");
+  desktop.ExpectMsgBox("Please Insert A Disk In The Drive First", kInformationIcon, "Sorry...");
   form.MyDrive.Select(2);
   EXPECT_EQ(form.MyDrive.Drive(), "c: [root]");
   EXPECT_EQ(form.MyDirectory.Path(), "c:\\");
 }
 
 TEST_F(SidebarLists, FollowAFileAndStayWhereItsFolderCannotBeShown) {
-  program.Begin();
+  Begin();
   form.Lists().SyncFileBoxes("c:\\site\\page.html");
   EXPECT_EQ(form.MyFileList.List(0), "Föto.GIF");
   for (const char* path : {"x:\\site\\page.html", " c:\\site\\page.html", "c:\\gone\\page.html",
@@ -74,10 +68,10 @@ TEST_F(SidebarLists, FollowAFileAndStayWhereItsFolderCannotBeShown) {
 }
 
 TEST_F(SidebarLists, DoubleClickOpensWhateverIsThere) {
-  program.Begin();
+  Begin();
   form.MyDirectory.SetPath("c:\\site");
   form.MyFileList.Select(1);
-  program.Pane().Type("ö");
+  Pane().Type("ö");
   desktop.ExpectMsgBox("Save Current Before Opening Another File?", 35, "Save on Open...", kCancel);
   form.MyFileList.DoubleClick(1);
   EXPECT_TRUE(form.DocumentChanged());

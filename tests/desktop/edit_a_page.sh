@@ -135,11 +135,8 @@ within 10 not_running || fail "the program did not end"
 grep -q lost "$page" && fail "saved what was to be dropped"
 
 # A picture dragged from the file list into the page, then the restart with the folder remembered.
-mkdir "$folder/config/tagsmith" 2>/dev/null || true
-convert -size 30x20 xc:red "$folder/pictures.gif"
-rm -f "$folder/config/tagsmith/settings.json"
 mkdir "$folder/site"
-mv "$folder/pictures.gif" "$folder/site/Pic.GIF"
+convert -size 30x20 xc:red "gif:$folder/site/Pic.GIF"
 printf '{"Tagsmith":{"Settings":{"Dir":"c:%s","HeightWidth":"True"}}}' \
     "$(echo "$folder/site" | sed 's|/|\\\\|g')" >"$folder/config/tagsmith/settings.json"
 printf 'x' >"$page"

@@ -1,8 +1,10 @@
 #!/usr/bin/env python3
-"""Opens a generated menu page in a real browser and works it with mouse and keyboard.
+"""Opens a generated menu page in a real browser and works it with mouse and keyboard, then the
+index page of a folder, as its own test has it.
 
     menu_in_browser.py PROGRAM DATA     the program that writes the page, the folder of list.js
 """
+import os
 import shutil
 import subprocess
 import sys
@@ -25,6 +27,9 @@ NESTED = b"""<html><script src=list.js></script><body onload="
   list.build(25, 25);"></body></html>"""
 CLOSED_LISTS = ["top", "middle", "plain"]
 OPENED_LISTS = ["top", "middle", "deep", "deeper", "plain"]
+
+INDEX = os.path.join(os.path.dirname(__file__), "../sitetools/golden_pages/EMenu_underlined.html")
+FOLDERS = ["alpha", "Beta", "ünder"]
 
 # The first words of the lines that are to be seen, with the lines' tops and bottoms.
 LINES = """[...document.querySelectorAll('.list-text')].filter(e => e.getClientRects().length)
@@ -79,16 +84,29 @@ def try_lists_in_lists(browser):
     expect(browser.value("lItem3.offsetTop - lItem2.offsetTop"), 60)
 
 
+def try_index(browser):
+    expect_lines(browser, FOLDERS)
+    browser.click("#lItem5 b")
+    expect(browser.value(LINES)[-1][0], "é")
+    expect(browser.value("getComputedStyle(document.links[0]).textDecorationLine"), "none")
+    browser.click("#lItem7 a")
+    browser.wait_for_page()
+    expect(browser.value("document.body.innerText"), "Here")
+
+
 with tempfile.TemporaryDirectory(ignore_cleanup_errors=True) as folder:
     program, data = sys.argv[1:]
     page = subprocess.run([program], input=MENU, stdout=subprocess.PIPE, check=True).stdout
     for name in ("list.js", "true.gif", "false.gif"):
         shutil.copy(data + "/" + name, folder)
-    for name, text in (("menu", page), ("nested", NESTED), ("a b", b"Here")):
+    shutil.copy(INDEX, folder + "/index.html")
+    os.mkdir(folder + "/ünder")
+    for name, text in (("menu", page), ("nested", NESTED), ("a b", b"Here"), ("ünder/é", b"Here")):
         with open("%s/%s.html" % (folder, name), "wb") as file:
             file.write(text)
     chromium = Browser(folder + "/profile")
-    for name, attempt in (("nested", try_lists_in_lists), ("menu", try_menu)):
+    for name, attempt in (("nested", try_lists_in_lists), ("index", try_index),
+                          ("menu", try_menu)):
         chromium.open("%s/%s.html" % (folder, name))
         attempt(chromium)
     chromium.call("Browser.close")

@@ -6,13 +6,11 @@
 #include <vector>
 
 #include "services/Buttons.h"
-#include "services/CommonDialog.h"
 #include "services/ControlArray.h"
 #include "services/Error.h"
 #include "services/FileBoxes.h"
 #include "services/Graphics.h"
 #include "services/Lists.h"
-#include "services/MSFlexGrid.h"
 #include "services/Ranges.h"
 #include "services/TextBox.h"
 #include "support/ScriptedDesktop.h"
@@ -64,17 +62,6 @@ TEST_F(Controls, ADisabledControlTakesNothingFromTheUser) {
   EXPECT_EQ(events, 0);
 }
 
-TEST_F(Controls, AKeyCanBeTakenAway) {
-  TextBox text{form, "txtName"};
-  text.onKeyPress = [](int& key) {
-    if (key == 'b') key = 0;
-  };
-  text.Type(
-      "ab\xC3\xA4"
-      "b");
-  EXPECT_EQ(text.Text(), "a\xC3\xA4");
-}
-
 TEST_F(Controls, SortedItemsAndTheComboBoxField) {
   ComboBox combo{form, "cboAlign", ComboStyle::kDropDownCombo, /*sorted=*/true};
   int clicks = 0;
@@ -96,12 +83,6 @@ TEST_F(Controls, SortedItemsAndTheComboBoxField) {
   combo.Select(0);
   EXPECT_EQ(combo.Text(), "absMiddle");
   EXPECT_EQ(clicks, 2);
-
-  ComboBox list{form, "cboTags", ComboStyle::kDropDownList, /*sorted=*/false};
-  list.AddItem("<B></B>");
-  list.Select(0);
-  list.UserEdit("typed");
-  EXPECT_EQ(list.Text(), "<B></B>");
 }
 
 TEST_F(Controls, LimitsHold) {
@@ -118,16 +99,6 @@ TEST_F(Controls, LimitsHold) {
   bar.SetValue(7);
   EXPECT_EQ(bar.Max(), 1);
   EXPECT_EQ(bar.Value(), 1);
-
-  MSFlexGrid grid{form, "MyTable", 2, 2};
-  grid.Select(1, 1);
-  grid.SetText("corner");
-  grid.SetCols(3);
-  EXPECT_EQ(grid.TextAt(1, 1), "corner");
-  grid.SetRows(1);
-  EXPECT_EQ(grid.Row(), 0);
-  grid.SetRows(2);
-  EXPECT_EQ(grid.TextAt(1, 1), "");
 }
 
 TEST_F(Controls, DirectoriesAboveAndBelow) {
@@ -198,18 +169,6 @@ TEST(Patterns, FollowTheUsualRules) {
   EXPECT_TRUE(MatchesPatterns("\xC3\xA4.txt", "?.txt"));
   EXPECT_FALSE(MatchesPatterns("ab.txt", "?.txt"));
   EXPECT_FALSE(MatchesPatterns("page.html", ""));
-}
-
-TEST_F(Controls, ACancelledDialogLeavesAllAsItWas) {
-  CommonDialog dialog{form};
-  dialog.fileName = "c:\\before.html";
-  desktop.ExpectOpenFile(std::nullopt);
-  EXPECT_FALSE(dialog.ShowOpen());
-  EXPECT_EQ(dialog.fileName, "c:\\before.html");
-  dialog.cancelError = true;
-  desktop.ExpectColour(std::nullopt);
-  EXPECT_THROW(dialog.ShowColor(), Error);
-  EXPECT_EQ(dialog.color, kBlack);
 }
 
 // A handler that lets an error out: the user sees it, and nothing else goes.

@@ -124,9 +124,6 @@ TEST_F(FileManDialog, AsksForAFileNameAndTakesItFromTheDialog) {
   Start("");
   EXPECT_EQ(program.app.gExportFormat, "EMenu");
   EXPECT_EQ(Page(), Golden("EMenu.html"));
-  program.desktop.ExpectMsgBox("Program: File Management Dialog\r\nVersion: 1.0", kInformationIcon,
-                               "About ...");
-  form->mnuAbout.Click();
 }
 
 TEST_F(FileManDialog, TellsNothingOfAPageThatCannotBeWritten) {

@@ -124,14 +124,6 @@ TEST_F(LowerCaseOnDisk, KeepsEveryByteThatIsNoLetter) {
             (Names{"äö.html", "σς", "\xC3", "a\xFF\uF87F", "\uFEFFx", "line\nend ", ".X"}));
 }
 
-TEST_F(LowerCaseOnDisk, TellsHardLinksApart) {
-  fs::create_directories(folder_ / "Site");
-  PutFile(folder_ / "Site/a", "");
-  fs::create_hard_link(folder_ / "Site/a", folder_ / "Site/A");
-  EXPECT_EQ(Walk().paths, std::vector<std::string>{folder_.System("Site/A")});
-  EXPECT_EQ(NamesIn(folder_ / "Site"), (Names{"A", "a"}));
-}
-
 TEST_F(LowerCaseOnDisk, GoesDeep) {
   std::string deep = "Site";
   while (deep.size() < 1500) deep += "/D";

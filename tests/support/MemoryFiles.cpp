@@ -27,8 +27,6 @@ std::string ParentOf(std::string_view path) {
 
 std::string NameOf(std::string_view path) { return std::string(path.substr(path.rfind('\\') + 1)); }
 
-bool HasDrive(std::string_view path) { return path.size() >= 2 && path[1] == ':'; }
-
 }  // namespace
 
 MemoryFiles::MemoryFiles() {
@@ -81,7 +79,7 @@ std::string MemoryFiles::Full(std::string_view path, std::string_view base) cons
   std::string full(path);
   if (path.starts_with('\\')) {
     full = std::string(base.substr(0, 2)).append(path);
-  } else if (!HasDrive(path)) {
+  } else if (path.find(':') != 1) {
     full = Bare(base).append("\\").append(path);
   }
   const auto drive = std::find_if(drives_.begin(), drives_.end(), [&full](const Drive& known) {

@@ -5,6 +5,7 @@
 #include "core/Application.h"
 #include "core/Startup.h"
 #include "core/frmMain.h"
+#include "support/MarkedText.h"
 #include "support/PlainTextPane.h"
 #include "support/ScriptedDesktop.h"
 
@@ -27,6 +28,26 @@ struct RunningProgram {
   }
 
   PlainTextPane& Pane() const { return dynamic_cast<PlainTextPane&>(form.txtEdit.Pane()); }
+
+  /// The text with its selection, as in MarkedText; what is put in counts as no edit.
+  void Put(std::string_view marked) {
+    const MarkedText put = MarkedText::Read(marked);
+    form.txtEdit.SetText(put.text);
+    form.MarkUnchanged();
+    Pane().Select(put.selStart, put.selLength);
+  }
+  std::string Shown() const {
+    return MarkedText{form.txtEdit.Text(), Pane().SelStart(), Pane().SelLength()}.Write();
+  }
+
+  void Click(std::string_view button, int index = Control::kNoIndex) {
+    form.Get<CommandButton>(button, index).Click();
+  }
+  /// Opens a file by the menu.
+  void Open(const std::string& path) {
+    desktop.ExpectOpenFile(path);
+    form.mnuFileOpen.Click();
+  }
 
   ScriptedDesktop desktop;
   Application app{desktop.platform};

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
+#include "services/Utf8.h"
 #include "services/host/HostFiles.h"
 #include "services/host/IconvDecoder.h"
 #include "services/host/TemporaryFolder.h"
@@ -53,6 +56,14 @@ TEST_F(HostRtfConversionTest, LeavesNoPageWhereSomethingFails) {
   std::filesystem::create_directories(folder_ / "one_1.png");
   EXPECT_EQ(CodeThrownBy([this] { Convert("one.rtf", "one.html"); }), ErrorCode::kNotARegularFile);
   EXPECT_EQ(NamesIn(folder_.Path()), (Names{"text.rtf", "one.rtf", "one_1.png"}));
+}
+
+TEST_F(HostRtfConversionTest, MakesValidPagesOfTheSamples) {
+  for (const auto& sample : std::filesystem::directory_iterator(TAGSMITH_RTF_SAMPLES)) {
+    EXPECT_TRUE(IsValidUtf8(PageOf(GetFile(sample.path())))) << sample.path();
+    EXPECT_EQ(std::system(("tidy -e -q --show-warnings yes " + folder_ / "one.html").c_str()), 0)
+        << sample.path();
+  }
 }
 
 TEST_F(HostRtfConversionTest, ReadsTextOfTwoByteCodePages) {

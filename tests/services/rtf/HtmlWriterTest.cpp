@@ -306,13 +306,11 @@ TEST(HtmlWriterLinks, LeadWhereTheyMayAndToBookmarksThatAreThere) {
       {"C:\\my docs\\a.rtf", "file:///C:/my%20docs/a.rtf"},
       {"\\\\server\\share", "file://server/share"},
       {"\xC3\xA9.html", "%C3%A9.html"},
-      {"tel:+49-1", "tel:+49-1"},
       {"#here", "#here"},
       {"#not here", ""},
       {" java\tscript:alert(1)", ""},
       {"\x01VBScript:x", ""},
       {"data:text/html,x", ""},
-      {"  ", ""},
   };
   for (const auto& [target, address] : cases) {
     Script script;

@@ -16,24 +16,9 @@ namespace tagsmith {
 
 /// Real windows; all else is scripted.
 struct Screen {
-  ScriptedDesktop desktop;
   QtWindowSystem windows;
-  Platform platform{windows,
-                    desktop.platform.dialogs,
-                    desktop.platform.clipboard,
-                    desktop.platform.keyboard,
-                    desktop.platform.events,
-                    desktop.platform.files,
-                    desktop.platform.settings,
-                    desktop.platform.pictures,
-                    desktop.platform.calendar,
-                    desktop.platform.rtf,
-                    desktop.platform.printer,
-                    desktop.platform.shell,
-                    desktop.platform.registry,
-                    desktop.platform.dictionary,
-                    "c:\\tagsmith",
-                    ""};
+  ScriptedDesktop desktop{&windows};
+  Platform& platform = desktop.platform;
 };
 
 /// A form on the screen and the log of its events.
