@@ -16,7 +16,7 @@
 
 #include "RunningProgram.h"
 #include "core/EditingCommands.h"
-#include "core/Printing.h"
+#include "core/general1.h"
 #include "services/Lines.h"
 #include "services/desktop/system/QtPrinter.h"
 

@@ -29,6 +29,7 @@ frmSpelling::frmSpelling(Application& application)
   for (Label* label : {&lblWord, &lblLine}) label->SetPlainCaption(true);
   lblLine.SetWidth(kLineWidth);
   txtChange.SetWidth(kFieldWidth);
+  txtChange.SetSelectsWritten(true);
   SetDefaultButton(cmdChange);
   SetInitialFocus(txtChange);
   SetArrangement(Column(
@@ -63,7 +64,6 @@ void frmSpelling::ShowWord(SpellCheck& check) {
   // Where the desktop's own language has no dictionary, the user sees which one is used.
   SetCaption(std::string(kCaption) + " (" + check.DictionaryName() + ")");
   ShowSuggestions();
-  txtChange.SelectAll();
 }
 
 void frmSpelling::ShowSuggestions() {

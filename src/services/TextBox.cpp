@@ -15,8 +15,6 @@ void TextBox::SetText(std::string_view text) {
   Raise(onChange);
 }
 
-void TextBox::SelectAll() { Tell(Property::kSelection); }
-
 bool TextBox::UserKeyPress(int keyAscii) {
   Raise(onKeyPress, keyAscii);
   return keyAscii != 0;

@@ -21,10 +21,12 @@ class TextBox : public Control {
   /// scroll bar too. Written before the form is shown.
   bool WrapsLines() const { return wrapsLines_; }
   void SetWrapsLines(bool wraps) { wrapsLines_ = wraps; }
+  /// Whether a text that is written into a field of one line is selected, so that what the user
+  /// types takes its place. Written before the form is shown.
+  bool SelectsWritten() const { return selectsWritten_; }
+  void SetSelectsWritten(bool selects) { selectsWritten_ = selects; }
   const std::string& Text() const { return text_; }
   void SetText(std::string_view text);
-  /// Selects the text, so that what the user types takes its place.
-  void SelectAll();
 
   Event<> onChange;
   /// A key that makes a character: its code, or 0 to take the key away.
@@ -43,6 +45,7 @@ class TextBox : public Control {
   std::string text_;
   bool multiLine_ = false;
   bool wrapsLines_ = true;
+  bool selectsWritten_ = false;
 };
 
 }  // namespace tagsmith

@@ -73,7 +73,7 @@ void TextBoxView::MakeLineEdit(QWidget& parent) {
   line_ = new QLineEdit(&parent);
   line_->setMaxLength(std::numeric_limits<int>::max());
   Update(Property::kText);
-  line_->setCursorPosition(0);
+  if (!model_.SelectsWritten()) line_->setCursorPosition(0);
   Adopt(line_);
   connect(line_, &QLineEdit::textEdited, this, [this] { TakeEdit(); });
 }
@@ -99,12 +99,12 @@ void TextBoxView::Resized() {
 }
 
 void TextBoxView::Update(Property property) {
-  if (property == Property::kSelection) line_ != nullptr ? line_->selectAll() : lines_->selectAll();
   if (property != Property::kText) return;
   showing_ = true;
   if (line_ != nullptr) {
     const QString text = ShownInOneLine(model_.Text());
     if (line_->text() != text) line_->setText(text);
+    if (model_.SelectsWritten()) line_->selectAll();
   } else {
     const QString text = ShownText(model_.Text());
     if (lines_->document()->toRawText() != text) lines_->setPlainText(text);

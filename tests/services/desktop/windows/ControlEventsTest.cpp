@@ -112,6 +112,9 @@ TEST_F(ControlEvents, WritesShowWithoutAnEcho) {
   EXPECT_TRUE(form.Widget<QAbstractButton>(form.chkOn)->isChecked());
   EXPECT_FALSE(form.Widget<QAbstractButton>(form.optA)->isChecked());
   EXPECT_EQ(form.Widget<QLineEdit>(form.txtOne)->text(), QStringLiteral("\u00A0one"));
+  form.txtOne.SetSelectsWritten(true);
+  form.txtOne.SetText("two");
+  EXPECT_EQ(form.Widget<QLineEdit>(form.txtOne)->selectedText(), "two");
   EXPECT_EQ(form.Widget<QComboBox>(form.cboType)->currentText(), "free");
   EXPECT_EQ(form.Widget<QSlider>(form.sldSize)->value(), 7);
   EXPECT_EQ(form.Widget(form.tabPages)->findChild<QTabBar*>()->currentIndex(), 1);
