@@ -203,10 +203,6 @@ TEST(ModalForms, BlockUntilTheyUnloadInsideTheirOwnHandler) {
 TEST(ModalForms, CloseWithEscapeAlsoWhenTheyAreSizable) {
   Screen screen;
   Resizable form(screen);
-  form.ShowAndWait();
-  QTest::keyClick(&form.Window(), Qt::Key_Escape);
-  EXPECT_TRUE(form.IsVisible()) << "a window among others";
-  form.Hide();
   QTimer::singleShot(0, [&] {
     EXPECT_TRUE(QTest::qWaitForWindowActive(&form.Window()));
     QTest::keyClick(&form.Window(), Qt::Key_Escape);
@@ -214,6 +210,9 @@ TEST(ModalForms, CloseWithEscapeAlsoWhenTheyAreSizable) {
     if (form.IsVisible()) form.Hide();
   });
   form.Show(Modality::kModal);
+  form.ShowAndWait();
+  QTest::keyClick(&form.Window(), Qt::Key_Escape);
+  EXPECT_TRUE(form.IsVisible()) << "a window among others";
 }
 
 TEST(ModelessForms, AreDestroyedRightAfterTheHandlerThatUnloadsThem) {
