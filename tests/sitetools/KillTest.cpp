@@ -46,7 +46,9 @@ FileOutcome Replace(const TemporaryFolder& folder, int file, const char* find,
 // Whether the file holds one word throughout, and behind that a line break for each run over it.
 bool IsWhole(std::string text) {
   while (text.ends_with("\r\n")) text.resize(text.size() - 2);
-  return text == Repeated("old ", kWordCount) || text == Repeated("new ", kWordCount);
+  static const std::string before = Repeated("old ", kWordCount);
+  static const std::string after = Repeated("new ", kWordCount);
+  return text == before || text == after;
 }
 
 TEST(DirectoryReplaceKilled, LeavesEveryFileOldOrNew) {

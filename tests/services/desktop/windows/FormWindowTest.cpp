@@ -200,15 +200,27 @@ TEST(ModalForms, BlockUntilTheyUnloadInsideTheirOwnHandler) {
   EXPECT_EQ(screen.platform.forms.Active(), &owner);
 }
 
+/// Presses Escape in a form that is about to be shown.
+class EscapeKey : public QObject {
+ public:
+  explicit EscapeKey(ShownForm& form) : form_(form) { startTimer(0); }
+
+ protected:
+  void timerEvent(QTimerEvent* event) override {
+    killTimer(event->timerId());
+    QTest::keyClick(&form_.Window(), Qt::Key_Escape);
+    EXPECT_FALSE(form_.IsVisible());
+    if (form_.IsVisible()) form_.Hide();
+  }
+
+ private:
+  ShownForm& form_;
+};
+
 TEST(ModalForms, CloseWithEscapeAlsoWhenTheyAreSizable) {
   Screen screen;
   Resizable form(screen);
-  QTimer::singleShot(0, [&] {
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&form.Window()));
-    QTest::keyClick(&form.Window(), Qt::Key_Escape);
-    EXPECT_FALSE(form.IsVisible());
-    if (form.IsVisible()) form.Hide();
-  });
+  const EscapeKey escape(form);
   form.Show(Modality::kModal);
   form.ShowAndWait();
   QTest::keyClick(&form.Window(), Qt::Key_Escape);
