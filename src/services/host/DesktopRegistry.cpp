@@ -34,7 +34,7 @@ void NamingPath(const std::string& path, const std::function<void()>& action) {
   try {
     action();
   } catch (const Error& error) {
-    throw Error(error.Code(), path + ": " + error.what());
+    throw ErrorAbout(path, error);
   }
 }
 

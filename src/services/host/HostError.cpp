@@ -52,4 +52,8 @@ Error FileError(int errorNumber, const std::string& hostPath) {
   return {ErrorCode::kPathNotFound, error.what()};
 }
 
+Error ErrorAbout(const std::string& hostPath, const Error& error) {
+  return Error(error.Code(), hostPath + ": " + error.what());
+}
+
 }  // namespace tagsmith

@@ -13,4 +13,7 @@ Error SystemError(int errorNumber);
 /// missing but also its folder.
 Error FileError(int errorNumber, const std::string& hostPath);
 
+/// `error` with the path that it is about in front of its text.
+Error ErrorAbout(const std::string& hostPath, const Error& error);
+
 }  // namespace tagsmith

@@ -45,12 +45,8 @@ std::vector<std::string> WordsIn(std::string_view bytes) {
   return words;
 }
 
-Error About(const std::string& path, const Error& error) {
-  return {error.Code(), path + ": " + error.what()};
-}
-
 Error TooLarge(const std::string& path) {
-  return About(path, {ErrorCode::kOther, "The file is too large for a list of words"});
+  return ErrorAbout(path, {ErrorCode::kOther, "The file is too large for a list of words"});
 }
 
 // The file's bytes; none where there is no file. Throws for one that cannot be read.
@@ -60,7 +56,7 @@ std::string ReadBytes(const std::string& path) {
   } catch (const Error& error) {
     const ErrorCode code = error.Code();
     if (code == ErrorCode::kFileNotFound || code == ErrorCode::kPathNotFound) return {};
-    throw About(path, error);
+    throw ErrorAbout(path, error);
   }
   throw TooLarge(path);
 }
@@ -69,7 +65,7 @@ void WriteBytes(const std::string& path, std::string_view bytes) {
   try {
     WriteSafely({path, {}}, bytes, Durability::kWritten);
   } catch (const Error& error) {
-    throw About(path, error);
+    throw ErrorAbout(path, error);
   }
 }
 
