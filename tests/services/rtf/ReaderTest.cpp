@@ -105,7 +105,7 @@ class Recorder : public DocumentSink {
   }
 
   static std::string Content(const Paragraph& paragraph, const Run& run) {
-    const std::string part = paragraph.text.substr(run.start, run.length);
+    std::string part = paragraph.text.substr(run.start, run.length);
     switch (run.kind) {
       case RunKind::kText:
         return part;
