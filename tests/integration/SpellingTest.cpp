@@ -181,7 +181,7 @@ TEST_F(Spelling, WhatTheUserTypesBetweenTwoWordsDoesNoHarm) {
   EXPECT_EQ(user.form.txtEdit.Text(), "x\r");
 
   user.desktop.onDoEvents = [this] { user.Pane().Type("\r"); };
-  Check("«»teh\r\nteh xyz", [this](frmSpelling& form) {
+  Check("«»teh\r\nteh xyz", [](frmSpelling& form) {
     form.cmdIgnore.Click();
     form.cmdChange.Click();
     form.cmdCancel.Click();
