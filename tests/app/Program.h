@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <string>
 #include <vector>
@@ -60,6 +61,24 @@ class Answers {
  private:
   QTimer timer_;
   std::vector<std::string> texts_;
+};
+
+/// Acts once, as the user does, in the next modal window of that class.
+template <class Window>
+class WhenAsked {
+ public:
+  explicit WhenAsked(const std::function<void(Window&)>& act) {
+    timer_.callOnTimeout([this, act] {
+      auto* window = qobject_cast<Window*>(QApplication::activeModalWidget());
+      if (window == nullptr) return;
+      timer_.stop();
+      act(*window);
+    });
+    timer_.start(5);
+  }
+
+ private:
+  QTimer timer_;
 };
 
 /// One run of the whole program in a real window, started with a command tail.

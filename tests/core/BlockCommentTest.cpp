@@ -4,10 +4,11 @@
 
 #include <functional>
 #include <random>
+#include <utility>
+#include <vector>
 
 #include "support/MarkedText.h"
 #include "support/PlainTextPane.h"
-#include "support/ScriptedDesktop.h"
 
 namespace tagsmith {
 namespace {
@@ -51,10 +52,6 @@ void UncommentByStepping(TextPane& pane, const std::string& symbol) {
   });
 }
 
-std::string Marked(const TextPane& pane) {
-  return MarkedText{pane.Text(), pane.SelStart(), pane.SelLength()}.Write();
-}
-
 std::string After(const MarkedText& before, const TextEdit& edit) {
   std::string text = before.text;
   text.replace(edit.start, edit.length, edit.replacement);
@@ -63,7 +60,6 @@ std::string After(const MarkedText& before, const TextEdit& edit) {
 
 // Texts of pieces that meet in unlucky ways; a selection never starts between CR and LF.
 TEST(BlockComment, DoesWhatSteppingThroughThePositionsDoes) {
-  ScriptedDesktop desktop;
   std::mt19937 random(7);
   const auto below = [&random](std::size_t limit) { return random() % limit; };
   for (int round = 0; round < 4000; ++round) {
@@ -81,19 +77,16 @@ TEST(BlockComment, DoesWhatSteppingThroughThePositionsDoes) {
     if (from > to) std::swap(from, to);
     const MarkedText before{text, from, to - from};
 
-    PlainTextPane pane(desktop.clipboard);
-    const auto reset = [&] {
+    for (const auto& [edit, step] : {std::pair(&CommentBlock, &CommentByStepping),
+                                     std::pair(&UncommentBlock, &UncommentByStepping)}) {
+      PlainTextPane pane;
       pane.SetText(text);
       pane.Select(from, to - from);
-    };
-    reset();
-    CommentByStepping(pane, symbol);
-    ASSERT_EQ(After(before, CommentBlock(text, from, to - from, symbol)), Marked(pane))
-        << "commenting " << before.Write() << " with " << symbol;
-    reset();
-    UncommentByStepping(pane, symbol);
-    ASSERT_EQ(After(before, UncommentBlock(text, from, to - from, symbol)), Marked(pane))
-        << "uncommenting " << before.Write() << " of " << symbol;
+      step(pane, symbol);
+      const MarkedText stepped{pane.Text(), pane.SelStart(), pane.SelLength()};
+      ASSERT_EQ(After(before, edit(text, from, to - from, symbol)), stepped.Write())
+          << before.Write() << " and " << symbol;
+    }
   }
 }
 

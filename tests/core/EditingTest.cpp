@@ -36,8 +36,6 @@ TEST_F(Editing, InsertionsPassThroughTheClipboardAndLeaveItsText) {
   Pane().Select(0, 3);
   form.MyDirectory.UserFocus();
   form.InsertAround("<B>", "</B>");
-  EXPECT_EQ(form.txtEdit.Text(), "<B>äb</B> cd");
-  EXPECT_EQ(form.txtEdit.SelStart(), std::string_view("<B>äb</B>").size());
   EXPECT_TRUE(form.txtEdit.HasFocus());
   form.InsertAround("<I>", "");
   form.InsertText("é");

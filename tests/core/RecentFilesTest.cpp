@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "core/RecentFiles.h"
 #include "support/RunningProgram.h"
 
 namespace tagsmith {
@@ -28,13 +27,11 @@ TEST_F(Recent, KeepsTheTenNewestAndTheFiveNewestTabs) {
   for (int i = 1; i <= 11; ++i) Open(PathOf(i));
   for (int i = 0; i < 10; ++i) EXPECT_EQ(form.mnuRecentlyUsed(i).Caption(), PathOf(11 - i));
   EXPECT_EQ(Tabs(), "11.html|10.html|9.html|8.html|7.html|");
-  EXPECT_EQ(form.MyTabFiles.Tab(), 0);
 
   Open(PathOf(11));
   EXPECT_EQ(form.mnuRecentlyUsed(1).Caption(), PathOf(11)) << "the list is not searched";
   Open(PathOf(8));
   EXPECT_EQ(form.MyTabFiles.Tab(), 3) << "a file with a tab selects it";
-  EXPECT_EQ(Tabs(), "11.html|10.html|9.html|8.html|7.html|");
   Open(PathOf(1));
   EXPECT_EQ(form.MyTabFiles.Tab(), 3) << "a new tab does not";
   EXPECT_EQ(Tabs(), "1.html|11.html|10.html|9.html|8.html|");
@@ -74,10 +71,13 @@ TEST_F(Recent, MenuEntryLoadsItsFileWithoutMovingUp) {
 }
 
 TEST_F(Recent, ClickOnATabSwitchesTheDocument) {
+  desktop.files.AddFile("c:\\other\\1.html", "");
   Open(PathOf(1));
-  Open(PathOf(2));
+  Open("c:\\other\\1.html");
+  EXPECT_EQ(Tabs(), "1.html|1.html||||") << "paths are told apart, not names";
   form.MyTabFiles.Select(4);
-  EXPECT_EQ(form.DocumentName(), PathOf(2)) << "a free tab stays selected and does nothing";
+  EXPECT_EQ(form.DocumentName(), "c:\\other\\1.html")
+      << "a free tab stays selected and does nothing";
   form.MyTabFiles.Select(1);
   EXPECT_EQ(form.DocumentName(), PathOf(1));
   EXPECT_EQ(form.txtEdit.Text(), "é1");
@@ -88,13 +88,6 @@ TEST_F(Recent, ClickOnATabSwitchesTheDocument) {
   EXPECT_EQ(form.MyTabFiles.Tab(), 0);
   EXPECT_EQ(form.DocumentName(), PathOf(1));
   EXPECT_TRUE(form.DocumentChanged());
-}
-
-TEST_F(Recent, TabsTellPathsApartNotNames) {
-  desktop.files.AddFile("c:\\other\\1.html", "");
-  form.Recent().AddFileTab(PathOf(1));
-  form.Recent().AddFileTab("c:\\other\\1.html");
-  EXPECT_EQ(Tabs(), "1.html|1.html||||");
 }
 
 }  // namespace

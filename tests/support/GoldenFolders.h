@@ -23,7 +23,7 @@ namespace tagsmith {
 ///     type TEXT, tab                       keys into the pane
 ///     drop NAME                            the file c:\art\NAME onto the pane
 ///     symbol TEXT, sizes                   the comment symbol is TEXT, pictures get their sizes
-///     no-undo                              undo has to leave the text after
+///     no-undo                              undo has to leave the text after; the first line
 ///
 /// and in a form:
 ///

@@ -18,10 +18,8 @@ struct MarkedText {
   static MarkedText Read(std::string_view marked) {
     const std::size_t open = marked.find(kOpen);
     const std::size_t close = marked.find(kClose);
-    const std::size_t start = open + kOpen.size();
-    MarkedText result{std::string(marked.substr(0, open)), open, close - start};
-    result.text.append(marked.substr(start, close - start))
-        .append(marked.substr(close + kClose.size()));
+    MarkedText result{std::string(marked), open, close - open - kOpen.size()};
+    result.text.erase(close, kClose.size()).erase(open, kOpen.size());
     return result;
   }
 

@@ -14,25 +14,21 @@ namespace {
   throw Error(code, text + ": " + std::string(path));
 }
 
+[[noreturn]] void Refuse(std::string_view path) {
+  Fail(ErrorCode::kPermissionDenied, "Permission denied", path);
+}
+
 // Without the backslash behind it.
 std::string Bare(std::string_view path) {
   while (path.ends_with('\\')) path.remove_suffix(1);
   return std::string(path);
 }
 
-std::string ParentOf(std::string_view path) {
-  const std::size_t slash = path.rfind('\\');
-  return std::string(slash == std::string_view::npos ? std::string_view() : path.substr(0, slash));
-}
+std::string ParentOf(std::string_view path) { return Bare(path.substr(0, path.rfind('\\') + 1)); }
 
 std::string NameOf(std::string_view path) { return std::string(path.substr(path.rfind('\\') + 1)); }
 
 }  // namespace
-
-MemoryFiles::MemoryFiles() {
-  AddDrive('c', "root", "c:\\");
-  AddDirectory("c:\\");
-}
 
 // --- What the test lays down and looks up ---
 
@@ -91,11 +87,9 @@ std::string MemoryFiles::Full(std::string_view path, std::string_view base) cons
 
 const MemoryFiles::Tree::value_type& MemoryFiles::Directory(std::string_view path) const {
   const auto found = Find(path);
-  if (found == tree_.end() || !found->second.isDirectory ||
-      found->second.fault == Fault::kUnreadable) {
-    Fail(ErrorCode::kPathNotFound, "Path not found", path);
-  }
-  return *found;
+  const bool isThere = found != tree_.end() && found->second.isDirectory;
+  if (isThere && found->second.fault != Fault::kUnreadable) return *found;
+  Fail(ErrorCode::kPathNotFound, "Path not found", path);
 }
 
 std::string MemoryFiles::ResolveDirectory(std::string_view path, std::string_view base) const {
@@ -108,10 +102,8 @@ std::vector<std::string> MemoryFiles::NamesIn(std::string_view directory, bool d
   std::vector<std::string> names;
   for (const auto& [path, entry] : tree_) {
     const std::string name = NameOf(path);
-    const bool isChild = path.size() > above.size() && ParentOf(path) == above;
-    if (isChild && entry.isDirectory == directories && !name.starts_with('.')) {
-      names.push_back(name);
-    }
+    const bool isWanted = ParentOf(path) == above && entry.isDirectory == directories;
+    if (isWanted && !name.starts_with('.')) names.push_back(name);
   }
   return names;
 }
@@ -137,9 +129,7 @@ std::optional<std::string> MemoryFiles::ReadFile(std::string_view path, std::siz
   if (found == tree_.end()) Fail(ErrorCode::kFileNotFound, "File not found", path);
   const Entry& entry = found->second;
   if (entry.isDirectory) Fail(ErrorCode::kNotARegularFile, "Not a file", path);
-  if (entry.fault == Fault::kUnreadable) {
-    Fail(ErrorCode::kPermissionDenied, "Permission denied", path);
-  }
+  if (entry.fault == Fault::kUnreadable) Refuse(path);
   if (entry.bytes.size() >= limit) return std::nullopt;
   return entry.bytes;
 }
@@ -149,7 +139,7 @@ void MemoryFiles::WriteFile(std::string_view path, std::string_view bytes, Durab
   const std::string& place = found != tree_.end() ? found->first : Full(path, CurrentDirectory());
   const auto& folder = Directory(ParentOf(place)).second;
   const Fault fault = found != tree_.end() ? found->second.fault : folder.fault;
-  if (fault == Fault::kNotWritable) Fail(ErrorCode::kPermissionDenied, "Permission denied", path);
+  if (fault == Fault::kNotWritable) Refuse(path);
   if (fault == Fault::kDiskFull) Fail(ErrorCode::kDiskFull, "Disk full", path);
   Entry& entry = tree_[place];
   if (entry.isDirectory) Fail(ErrorCode::kNotARegularFile, "Not a file", path);
@@ -166,9 +156,7 @@ std::vector<std::string> MemoryFiles::RenameEntries(std::string_view directory,
     if (from == to) continue;
     const auto found = tree_.find(from);
     if (found == tree_.end()) Fail(ErrorCode::kFileNotFound, "File not found", from);
-    if (found->second.fault == Fault::kNotWritable) {
-      Fail(ErrorCode::kPermissionDenied, "Permission denied", from);
-    }
+    if (found->second.fault == Fault::kNotWritable) Refuse(from);
     if (tree_.contains(to)) {
       left.push_back(name.from);
       continue;

@@ -16,7 +16,7 @@ class MemoryFiles : public FileSystem {
  public:
   enum class Fault : std::uint8_t { kNone, kUnreadable, kNotWritable, kDiskFull };
 
-  MemoryFiles();
+  MemoryFiles() { AddDirectory("c:\\"); }
 
   // --- What the test lays down and looks up ---
 
@@ -70,7 +70,7 @@ class MemoryFiles : public FileSystem {
   std::string Full(std::string_view path, std::string_view base) const;
 
   Tree tree_;
-  std::vector<Drive> drives_;
+  std::vector<Drive> drives_ = {{'c', "root", "c:\\"}};
   Durability lastDurability_ = Durability::kWritten;
 };
 

@@ -17,44 +17,31 @@ void PlainTextPane::Type(std::string_view text) {
     std::size_t length = std::max<std::size_t>(character.length, 1);
     if (text.starts_with("\r\n")) length = 2;
     const bool isLineEnd = text.front() == '\r' || text.front() == '\n';
-    PressKey(isLineEnd ? '\r' : static_cast<int>(character.codePoint),
-             isLineEnd ? std::string_view(lineEnd_) : text.substr(0, length));
+    const int key = isLineEnd ? '\r' : static_cast<int>(character.codePoint);
+    if (listener_ == nullptr || listener_->UserKeyPress(key)) {
+      UserReplace(isLineEnd ? std::string_view(lineEnd_) : text.substr(0, length));
+    }
     text.remove_prefix(length);
   }
 }
 
-void PlainTextPane::PressKey(int keyAscii, std::string_view text) {
-  if (listener_ == nullptr || listener_->UserKeyPress(keyAscii)) UserReplace(selection_, text);
-}
-
 void PlainTextPane::PressKeys(std::string_view keys) {
-  const bool isControlKey = keys.size() == 4 && keys.starts_with("^(");
-  isControlKey ? Press(keys[2]) : Type(keys);
-}
-
-void PlainTextPane::Press(char controlKey) {
-  if (controlKey == 'z') {
+  if (keys.size() != 4 || !keys.starts_with("^(")) return Type(keys);
+  const char key = keys[2];
+  if (key == 'z') {
     if (TryUndo()) TellChange();
-    return;
-  }
-  if (clipboard_ == nullptr) return;
-  if (controlKey == 'v') {
+  } else if (key == 'v') {
     const std::string text = clipboard_->GetText();
-    if (!text.empty()) UserReplace(selection_, text);
-    return;
+    if (!text.empty()) UserReplace(text);
+  } else if (selection_.length > 0) {
+    clipboard_->SetText(TextRange(selection_.start, selection_.length));
+    if (key == 'x') UserReplace({});
   }
-  if (selection_.length == 0) return;
-  clipboard_->SetText(TextRange(selection_.start, selection_.length));
-  if (controlKey == 'x') UserReplace(selection_, {});
 }
 
-void PlainTextPane::UserReplace(Span span, std::string_view text) {
-  Replace(span, text);
+void PlainTextPane::UserReplace(std::string_view text) {
+  Replace(selection_, text);
   TellChange();
-}
-
-void PlainTextPane::TellChange() {
-  if (listener_ != nullptr) listener_->UserChanged();
 }
 
 // --- The pane ---
@@ -85,30 +72,8 @@ void PlainTextPane::SetText(std::string_view text) {
   selection_ = {};
 }
 
-std::string PlainTextPane::TextRange(std::size_t start, std::size_t length) const {
-  const Span span = Snap(start, length);
-  return text_.substr(span.start, span.length);
-}
-
-void PlainTextPane::Select(std::size_t start, std::size_t length) {
-  selection_ = Snap(start, length);
-}
-
-void PlainTextPane::ReplaceSelection(std::string_view text) {
-  if (selection_.length > 0 || !text.empty()) Replace(selection_, text);
-}
-
 std::size_t PlainTextPane::LineFromPosition(std::size_t position) const {
   return CountLineEnds(std::string_view(text_).substr(0, Snap(position)));
-}
-
-void PlainTextPane::BeginUndoGroup() {
-  if (groups_++ == 0) undo_.emplace_back();
-}
-
-void PlainTextPane::EndUndoGroup() {
-  if (groups_ == 0 || --groups_ > 0) return;
-  if (undo_.back().empty()) undo_.pop_back();
 }
 
 bool PlainTextPane::TryUndo() {
@@ -120,11 +85,6 @@ bool PlainTextPane::TryUndo() {
     selection_ = {Snap(edit->start + edit->removed.size()), 0};
   }
   return true;
-}
-
-void PlainTextPane::EmptyUndoHistory() {
-  undo_.clear();
-  if (groups_ > 0) undo_.emplace_back();
 }
 
 std::size_t PlainTextPane::FormatRange(const PageRequest& request) {

@@ -29,19 +29,32 @@ class PlainTextPane final : public TextPane {
   std::string Text() const override { return text_; }
   void SetText(std::string_view text) override;
   std::size_t Length() const override { return text_.size(); }
-  std::string TextRange(std::size_t start, std::size_t length) const override;
+  std::string TextRange(std::size_t start, std::size_t length) const override {
+    const Span span = Snap(start, length);
+    return text_.substr(span.start, span.length);
+  }
   std::size_t SelStart() const override { return selection_.start; }
   std::size_t SelLength() const override { return selection_.length; }
-  void Select(std::size_t start, std::size_t length) override;
+  void Select(std::size_t start, std::size_t length) override { selection_ = Snap(start, length); }
   void ShowSelection() override { shownSelection = SelStart(); }
-  void ReplaceSelection(std::string_view text) override;
+  void ReplaceSelection(std::string_view text) override {
+    if (selection_.length > 0 || !text.empty()) Replace(selection_, text);
+  }
   std::size_t LineFromPosition(std::size_t position) const override;
   FontSpec Font() const override { return font_; }
   void SetFont(const FontSpec& font) override { font_ = font; }
-  void BeginUndoGroup() override;
-  void EndUndoGroup() override;
+  void BeginUndoGroup() override {
+    if (groups_++ == 0) undo_.emplace_back();
+  }
+  void EndUndoGroup() override {
+    if (groups_ == 0 || --groups_ > 0) return;
+    if (undo_.back().empty()) undo_.pop_back();
+  }
   void Undo() override { TryUndo(); }
-  void EmptyUndoHistory() override;
+  void EmptyUndoHistory() override {
+    undo_.clear();
+    if (groups_ > 0) undo_.emplace_back();
+  }
   /// A page holds as many bytes as its drawing rectangle is high, in lines of 240 twips.
   std::size_t FormatRange(const PageRequest& request) override;
   void EndFormatting() override { formatting = false; }
@@ -68,10 +81,10 @@ class PlainTextPane final : public TextPane {
   Span Snap(std::size_t start, std::size_t length) const;
   void Replace(Span span, std::string_view text);
   bool TryUndo();
-  void PressKey(int keyAscii, std::string_view text);
-  void UserReplace(Span span, std::string_view text);
-  void Press(char controlKey);
-  void TellChange();
+  void UserReplace(std::string_view text);
+  void TellChange() {
+    if (listener_ != nullptr) listener_->UserChanged();
+  }
 
   std::string text_;
   Span selection_;

@@ -1,23 +1,10 @@
 #include "support/ScriptedDesktop.h"
 
-#include <gtest/gtest.h>
-
 #include "services/RichTextBox.h"
 #include "support/PlainTextPane.h"
 
 namespace tagsmith {
 namespace {
-
-std::string Quoted(std::string_view text) { return std::string(" \"").append(text).append("\""); }
-
-std::string MsgBoxQuestion(std::string_view prompt, int flags, std::string_view title) {
-  return "message box" + Quoted(prompt) + " " + std::to_string(flags) + Quoted(title);
-}
-
-std::string InputBoxQuestion(std::string_view prompt, std::string_view title,
-                             std::string_view initial) {
-  return "input box" + Quoted(prompt) + Quoted(title) + Quoted(initial);
-}
 
 class SizedPicture : public Picture {
  public:
@@ -31,19 +18,6 @@ class SizedPicture : public Picture {
 
 }  // namespace
 
-std::string MemorySettings::GetSetting(std::string_view application, std::string_view section,
-                                       std::string_view key, std::string_view fallback) const {
-  EXPECT_EQ(application, kApplicationTitle);
-  const auto found = values.find(std::string(section).append("/").append(key));
-  return found == values.end() ? std::string(fallback) : found->second;
-}
-
-void MemorySettings::SaveSetting(std::string_view application, std::string_view section,
-                                 std::string_view key, std::string_view value) {
-  EXPECT_EQ(application, kApplicationTitle);
-  values[std::string(section).append("/").append(key)] = value;
-}
-
 // --- Windows ---
 
 class ScriptedDesktop::ScriptedFormView : public FormView {
@@ -53,7 +27,11 @@ class ScriptedDesktop::ScriptedFormView : public FormView {
   void Show() override { Log("Show"); }
   void RunModal(Form* /*owner*/) override {
     Log("RunModal");
-    desktop_.RunModal(form_);
+    const auto act = desktop_.Answer<std::function<void(Form&)>>("a modal form", {});
+    if (act) act(form_);
+    if (!form_.IsVisible()) return;
+    if (act) ADD_FAILURE() << form_.Name() << " was left open";
+    form_.Unload();
   }
   void Close() override { Log("Close"); }
   void BringToFront() override { Log("BringToFront"); }
@@ -88,25 +66,6 @@ ScriptedDesktop::ScriptedDesktop(WindowSystem* windows)
   files.AddDirectory("c:\\tagsmith");
 }
 
-void ScriptedRtfConversion::ScroogeConvertFile(std::string_view from, std::string_view to,
-                                               int reserved3, std::string_view program,
-                                               std::string_view reserved5,
-                                               std::string_view reserved6,
-                                               std::string_view fontName, int reserved8) {
-  calls.push_back({std::string(from),
-                   std::string(to),
-                   {std::string(program), std::string(reserved5), std::string(reserved6),
-                    std::string(fontName)},
-                   reserved3,
-                   reserved8});
-  if (calls.size() == failingCall) throw Error(ErrorCode::kOther, "Not in Rich Text Format");
-  files_.WriteFile(to, "<I>" + std::string(from) + "</I>", Durability::kWritten);
-}
-
-ScriptedDesktop::~ScriptedDesktop() {
-  for (const Step& step : steps_) ADD_FAILURE() << "never asked: " << step.question;
-}
-
 std::unique_ptr<FormView> ScriptedDesktop::MakeFormView(Form& form) {
   return std::make_unique<ScriptedFormView>(*this, form);
 }
@@ -115,48 +74,12 @@ std::unique_ptr<TextPane> ScriptedDesktop::MakeTextPane() {
   return std::make_unique<PlainTextPane>(clipboard);
 }
 
-void ScriptedDesktop::RunModal(Form& form) {
-  auto act = Answer<std::function<void(Form&)>>("a modal form", {});
-  if (act) act(form);
-  if (!form.IsVisible()) return;
-  if (act) ADD_FAILURE() << form.Name() << " was left open";
-  form.Unload();
-}
-
 // --- Questions ---
 
-void ScriptedDesktop::NotExpected(const std::string& question) {
-  ADD_FAILURE() << "not expected: " << question;
-}
-
-std::any ScriptedDesktop::Ask(const std::string& question) {
-  if (steps_.empty() || steps_.front().question != question) {
-    NotExpected(question + (steps_.empty() ? "" : ", but " + steps_.front().question));
-    return {};
-  }
-  std::any answer = std::move(steps_.front().answer);
-  steps_.pop_front();
-  return answer;
-}
-
-void ScriptedDesktop::ExpectMsgBox(std::string_view prompt, int flags, std::string_view title,
-                                   int answer) {
-  Expect(MsgBoxQuestion(prompt, flags, title), answer);
-}
-
-void ScriptedDesktop::ExpectInputBox(std::string_view prompt, std::string_view title,
-                                     std::string_view initial, std::string_view answer) {
-  Expect(InputBoxQuestion(prompt, title, initial), std::string(answer));
-}
-
-int ScriptedDesktop::MsgBox(Form& /*owner*/, std::string_view prompt, int flags,
-                            std::string_view title) {
-  return Answer(MsgBoxQuestion(prompt, flags, title), kCancel);
-}
-
-std::string ScriptedDesktop::InputBox(Form& /*owner*/, std::string_view prompt,
-                                      std::string_view title, std::string_view initial) {
-  return Answer(InputBoxQuestion(prompt, title, initial), std::string());
+std::string ScriptedDesktop::Question(std::string kind,
+                                      std::initializer_list<std::string_view> texts) {
+  for (const std::string_view text : texts) kind.append(" \"").append(text).append("\"");
+  return kind;
 }
 
 // --- Keys, events, pictures ---
@@ -165,11 +88,6 @@ void ScriptedDesktop::SendKeys(std::string_view keys) {
   const Form* active = platform.forms.Active();
   auto* box = active == nullptr ? nullptr : dynamic_cast<RichTextBox*>(active->ActiveControl());
   if (box != nullptr) dynamic_cast<PlainTextPane&>(box->Pane()).PressKeys(keys);
-}
-
-void ScriptedDesktop::AddPicture(std::string_view path, int width, int height) {
-  files.AddFile(path, "picture");
-  pictures_[std::string(path)] = {width, height};
 }
 
 std::shared_ptr<const Picture> ScriptedDesktop::LoadPicture(std::string_view path) {

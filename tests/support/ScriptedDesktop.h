@@ -1,8 +1,11 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <any>
 #include <deque>
 #include <functional>
+#include <initializer_list>
 #include <map>
 #include <memory>
 #include <optional>
@@ -65,17 +68,22 @@ class MemorySettings : public SettingsStore {
   std::map<std::string, std::string, std::less<>> values;
 
   std::string GetSetting(std::string_view application, std::string_view section,
-                         std::string_view key, std::string_view fallback) const override;
+                         std::string_view key, std::string_view fallback) const override {
+    EXPECT_EQ(application, kApplicationTitle);
+    const auto found = values.find(std::string(section).append("/").append(key));
+    return found == values.end() ? std::string(fallback) : found->second;
+  }
   void SaveSetting(std::string_view application, std::string_view section, std::string_view key,
-                   std::string_view value) override;
+                   std::string_view value) override {
+    EXPECT_EQ(application, kApplicationTitle);
+    values[std::string(section).append("/").append(key)] = value;
+  }
 };
 
 /// A clock that stands still, and date forms that name themselves.
 class FixedCalendar : public Calendar {
  public:
-  LocalTime now{2003, 9, 4, 15, 6, 7};
-
-  LocalTime Now() const override { return now; }
+  LocalTime Now() const override { return {2003, 9, 4, 15, 6, 7}; }
   std::string LongDate(const LocalTime& time) const override { return Text("läng", time); }
   std::string MediumDate(const LocalTime& time) const override { return Text("medium", time); }
   std::string ShortDate(const LocalTime& time) const override { return Text("short", time); }
@@ -107,7 +115,13 @@ class ScriptedRtfConversion : public RtfConversion {
   void ScroogeConvertFile(std::string_view from, std::string_view to, int reserved3,
                           std::string_view program, std::string_view reserved5,
                           std::string_view reserved6, std::string_view fontName,
-                          int reserved8) override;
+                          int reserved8) override {
+    const auto texts = {program, reserved5, reserved6, fontName};
+    calls.push_back(
+        {std::string(from), std::string(to), {texts.begin(), texts.end()}, reserved3, reserved8});
+    if (calls.size() == failingCall) throw Error(ErrorCode::kOther, "Not in Rich Text Format");
+    files_.WriteFile(to, "<I>" + std::string(from) + "</I>", Durability::kWritten);
+  }
 
  private:
   FileSystem& files_;
@@ -187,8 +201,7 @@ class ScriptedDictionary : public Dictionary {
     return words.contains(word);
   }
   std::vector<std::string> Suggest(std::string_view word) override {
-    const auto found = suggestions.find(word);
-    return found == suggestions.end() ? std::vector<std::string>() : found->second;
+    return suggestions[std::string(word)];
   }
   void Learn(std::string_view word) override {
     words.emplace(word);
@@ -212,9 +225,9 @@ class ScriptedDesktop : private WindowSystem,
  public:
   /// `windows` are real ones, where the test has them.
   explicit ScriptedDesktop(WindowSystem* windows = nullptr);
-  ~ScriptedDesktop() override;
-  ScriptedDesktop(const ScriptedDesktop&) = delete;
-  ScriptedDesktop& operator=(const ScriptedDesktop&) = delete;
+  ~ScriptedDesktop() override {
+    for (const Step& step : steps_) ADD_FAILURE() << "never asked: " << step.question;
+  }
 
   MemoryFiles files;
   MemorySettings settings;
@@ -231,9 +244,13 @@ class ScriptedDesktop : private WindowSystem,
 
   // --- Answers ---
 
-  void ExpectMsgBox(std::string_view prompt, int flags, std::string_view title, int answer = kOk);
+  void ExpectMsgBox(std::string_view prompt, int flags, std::string_view title, int answer = kOk) {
+    Expect(Question("message box", {prompt, std::to_string(flags), title}), answer);
+  }
   void ExpectInputBox(std::string_view prompt, std::string_view title, std::string_view initial,
-                      std::string_view answer);
+                      std::string_view answer) {
+    Expect(Question("input box", {prompt, title, initial}), std::string(answer));
+  }
   /// An empty optional is Cancel.
   void ExpectOpenFile(std::optional<std::string> path) { Expect("open file", std::move(path)); }
   void ExpectSaveFile(std::optional<std::string> path) { Expect("save file", std::move(path)); }
@@ -248,14 +265,18 @@ class ScriptedDesktop : private WindowSystem,
   void OnModal(std::function<void(T&)> act) {
     Expect("a modal form", std::function<void(Form&)>([act = std::move(act)](Form& form) {
              auto* expected = dynamic_cast<T*>(&form);
-             expected != nullptr ? act(*expected) : NotExpected("the modal form " + form.Name());
+             ASSERT_NE(expected, nullptr) << "not expected: the modal form " << form.Name();
+             act(*expected);
            }));
   }
 
   // --- Other things that the test lays down or looks up ---
 
   /// A picture file of that size, in pixels.
-  void AddPicture(std::string_view path, int width, int height);
+  void AddPicture(std::string_view path, int width, int height) {
+    files.AddFile(path, "picture");
+    pictures_[std::string(path)] = {width, height};
+  }
   /// What happens when a long command yields to the event queue.
   std::function<void()> onDoEvents;
   /// Whether the program has been ended at once.
@@ -271,24 +292,30 @@ class ScriptedDesktop : private WindowSystem,
     std::any answer;
   };
 
-  static void NotExpected(const std::string& question);
+  static std::string Question(std::string kind, std::initializer_list<std::string_view> texts);
   void Expect(std::string question, std::any answer) {
     steps_.push_back({std::move(question), std::move(answer)});
   }
-  /// The answer to `question` if it is the next one expected; else none, and the test fails.
-  std::any Ask(const std::string& question);
+  /// The answer to `question` if it is the next one expected; else `fallback`, and the test fails.
   template <class T>
   T Answer(const std::string& question, T fallback) {
-    const std::any answer = Ask(question);
-    return answer.has_value() ? std::any_cast<T>(answer) : fallback;
+    const std::string next = steps_.empty() ? "nothing" : steps_.front().question;
+    EXPECT_EQ(question, next) << "not expected";
+    if (question != next) return fallback;
+    const std::any answer = std::move(steps_.front().answer);
+    steps_.pop_front();
+    return std::any_cast<T>(answer);
   }
-  void RunModal(Form& form);
 
   std::unique_ptr<FormView> MakeFormView(Form& form) override;
   std::unique_ptr<TextPane> MakeTextPane() override;
-  int MsgBox(Form& owner, std::string_view prompt, int flags, std::string_view title) override;
-  std::string InputBox(Form& owner, std::string_view prompt, std::string_view title,
-                       std::string_view initial) override;
+  int MsgBox(Form& /*owner*/, std::string_view prompt, int flags, std::string_view title) override {
+    return Answer(Question("message box", {prompt, std::to_string(flags), title}), kCancel);
+  }
+  std::string InputBox(Form& /*owner*/, std::string_view prompt, std::string_view title,
+                       std::string_view initial) override {
+    return Answer(Question("input box", {prompt, title, initial}), std::string());
+  }
   std::optional<std::string> OpenFile(Form& /*owner*/, const FileDialogRequest&) override {
     return Answer("open file", std::optional<std::string>());
   }

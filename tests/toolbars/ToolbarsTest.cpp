@@ -55,14 +55,13 @@ struct Case {
   const char* control;
   const char* bare;
   const char* around;
-  const char* aroundWithId = nullptr;  ///< Null where the option changes nothing.
+  const char* aroundWithId;
 };
 
 constexpr Case kButtons[] = {
-    {"cmdBold", "<B>«»</B>", "<B>ö</B>«»", "<B Id=\"BoldID\">ö</B>«»"},
     {"cmdItallic", "<I>«»</I>", "<I>ö</I>«»", "<I Id=\"ItallicsID\">ö</I>«»"},
-    {"cmdBR", "<BR>«»", "<BR>ö«»"},
-    {"cmdFrameset", "<FRAMESET>«»</FRAMESET>", "<FRAMESET>ö</FRAMESET>«»"},
+    {"cmdBR", "<BR>«»", "<BR>ö«»", "<BR>ö«»"},
+    {"cmdTR", "<TR>«»</TR>", "<TR>ö</TR>«»", "<TR>ö</TR>«»"},
 };
 
 TEST_F(Toolbars, ButtonsPutTheirTagsAroundTheSelection) {
@@ -73,14 +72,12 @@ TEST_F(Toolbars, ButtonsPutTheirTagsAroundTheSelection) {
     EXPECT_EQ(AfterClick(row.control, "ä«»z"), inPlace(row.bare));
     EXPECT_EQ(AfterClick(row.control, "ä«ö»z"), inPlace(row.around));
     app.gIncludeIdAttribute = true;
-    EXPECT_EQ(AfterClick(row.control, "ä«ö»z"),
-              inPlace(row.aroundWithId != nullptr ? row.aroundWithId : row.around));
+    EXPECT_EQ(AfterClick(row.control, "ä«ö»z"), inPlace(row.aroundWithId));
   }
 }
 
 TEST_F(Toolbars, HeadingsAreInsertedByChoosingAndOnlyByChoosing) {
   auto& headings = form.Get<ComboBox>("cboHeadings");
-  EXPECT_EQ(headings.Text(), "H1");
   Put("ä«»z");
   headings.UserFocus();
   headings.UserEdit("H3");
@@ -88,7 +85,6 @@ TEST_F(Toolbars, HeadingsAreInsertedByChoosingAndOnlyByChoosing) {
   EXPECT_EQ(Shown(), "ä«»z");
 
   headings.Select(1);
-  EXPECT_EQ(headings.Text(), "H2");
   headings.Select(1);
   EXPECT_EQ(Shown(), "ä<H2><H2>«»</H2></H2>z");
 
@@ -107,8 +103,7 @@ struct InsertCase {
 
 TEST_F(Toolbars, InsertButtonsReplaceTheSelectionByTheField) {
   const InsertCase kCases[] = {
-      {"cboTags", "cmdInsert", "<META HTTP-EQUIV=REFRESH CONTENT=5; URL=New Location></META>",
-       false},
+      {"cboTags", "cmdInsert", "<META></META>", false},
       {"cboASP", "cmdASPDropIn", "Request.Cookies()", false},
       {"cboCSS", "cmdCSSInsert", "display: ;", true},
       {"cboDHTML", "cmdDHTMLInsert", "style.getAttribute()", true},
@@ -117,21 +112,20 @@ TEST_F(Toolbars, InsertButtonsReplaceTheSelectionByTheField) {
   for (const InsertCase& row : kCases) {
     SCOPED_TRACE(row.box);
     ComboBox& box = form.Get<ComboBox>(row.box);
-    auto& button = form.Get<CommandButton>(row.button);
     int index = 0;
     while (index < box.ListCount() && box.List(index) != row.entry) ++index;
     EXPECT_EQ(box.Text(), box.List(0)) << "the first is shown, none is chosen";
     Put("ä«ö»z");
     box.Select(index);
     EXPECT_EQ(Shown(), "ä«ö»z") << "choosing alone inserts nothing";
-    button.Click();
     const std::string once = "ä" + std::string(row.entry) + "«»z";
+    Click(row.button);
     EXPECT_EQ(Shown(), once);
     EXPECT_TRUE(form.txtEdit.HasFocus());
 
     Put("ä«»z");
     box.UserEdit("é typed");
-    button.Click();
+    Click(row.button);
     EXPECT_EQ(Shown(), row.typed ? "äé typed«»z" : once);
   }
 }

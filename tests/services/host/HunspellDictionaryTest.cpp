@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <functional>
 #include <map>
 
 #include "services/host/TemporaryFolder.h"
@@ -24,7 +23,7 @@ class HunspellDictionaryTest : public testing::Test {
   HunspellDictionaryTest() {
     Put("de_DE", "UTF-8", "3\nHaus\nBücher/S\ngeht's\n");
     Put("de_CH", "ISO8859-1", "3\nStra\337e\nB\374cher/S\ngeht's\n");
-    Put("en_US", "ISO8859-15", "2\nhouse/S\n\xA4\n");
+    Put("en_US", "UTF-8", "1\nhouse/S\n");
   }
 
   void Put(const std::string& name, const std::string& encoding, std::string_view words) {
@@ -37,20 +36,12 @@ class HunspellDictionaryTest : public testing::Test {
   static void ExpectKnown(HunspellDictionary& dictionary, const Texts& words, bool known = true) {
     for (const std::string& word : words) EXPECT_EQ(dictionary.Knows(word), known) << word;
   }
-  static std::string TextThrownBy(const std::function<void()>& action) {
-    try {
-      action();
-    } catch (const Error& error) {
-      return error.what();
-    }
-    return {};
+  static DictionarySearch SearchBy(std::map<std::string, std::string> variables) {
+    return DictionarySearch::By([&variables](const char* name) { return variables[name]; });
   }
   // The name of the dictionary that is found in the folder.
-  std::string Found(std::map<std::string, std::string> variables) {
-    DictionarySearch search =
-        DictionarySearch::By([&variables](const char* variable) { return variables[variable]; });
-    search.folders = {folder_.Path()};
-    return FindDictionary(search).name;
+  std::string Found(const std::map<std::string, std::string>& variables) {
+    return FindDictionary({SearchBy(variables).languages, {folder_.Path()}}).name;
   }
 
   TemporaryFolder folder_;
@@ -70,12 +61,9 @@ TEST_F(HunspellDictionaryTest, TheDesktopsLanguageDecides) {
   EXPECT_EQ(Found({{"LANG", "ca_ES@valencia"}}), "ca-valencia");
   EXPECT_EQ(Found({{"LANG", "fr_FR"}}), "en_US") << "the words of one trade are no dictionary";
 
-  std::map<std::string, std::string> places = {{"DICPATH", "/a:/b"}, {"HOME", "/home/ann"}};
-  const Texts folders =
-      DictionarySearch::By([&](const char* variable) { return places[variable]; }).folders;
-  EXPECT_EQ((Texts{folders.begin(), folders.begin() + 5}),
-            (Texts{"/a", "/b", "/home/ann/.local/share/hunspell", "/usr/local/share/hunspell",
-                   "/usr/share/hunspell"}));
+  const Texts folders = SearchBy({{"DICPATH", "/a:/b"}, {"HOME", "/home/ann"}}).folders;
+  EXPECT_EQ((Texts{folders.begin(), folders.begin() + 3}),
+            (Texts{"/a", "/b", "/home/ann/.local/share/hunspell"}));
 }
 
 TEST_F(HunspellDictionaryTest, FilesThatAreNoDictionaryDoNotCount) {
@@ -108,7 +96,6 @@ TEST_F(HunspellDictionaryTest, WordsGoThroughTheDictionarysEncoding) {
   }
   Put("ru_RU", "microsoft-cp1251", "1\n\xEC\xE8\xF0\n");
   EXPECT_TRUE(Open("ru_RU").Knows("Мир"));
-  EXPECT_TRUE(Open("en_US").Knows("€"));
   Put("xx_XX", "no-such-encoding", "1\nhouse\n");
   EXPECT_TRUE(Open("xx_XX").Knows("house"));
   EXPECT_FALSE(Open("xx_XX").Knows("höuse"));
@@ -152,7 +139,6 @@ TEST_F(HunspellDictionaryTest, ADamagedListGivesWhatIsReadableAndIsKept) {
   HunspellDictionary dictionary = Open("de_CH");
   ExpectKnown(dictionary, {"erstes", "zweites", "viertes"});
   EXPECT_FALSE(dictionary.Knows("drittes"));
-  dictionary.Learn("fünftes");
   dictionary.Learn("fünftes");
   EXPECT_EQ(GetFile(words_), bytes + "\nfünftes\n");
 }

@@ -45,8 +45,11 @@ const std::string kAccessList(
 
 class SafeWriterTest : public testing::Test {
  protected:
+  std::optional<ErrorCode> CodeOfWriting(std::string_view name, std::string_view bytes) {
+    return CodeThrownBy([&] { WriteSafely({folder_ / name, {}}, bytes, Durability::kFlushed); });
+  }
   void Write(std::string_view name, std::string_view bytes) {
-    WriteSafely({folder_ / name, {}}, bytes, Durability::kFlushed);
+    EXPECT_EQ(CodeOfWriting(name, bytes), std::nullopt);
     EXPECT_EQ(GetFile(folder_ / name), bytes);
   }
 
@@ -108,9 +111,7 @@ TEST_F(SafeWriterTest, LinksStayLinks) {
     Write(name, std::string(100000, 'x') + name);
     Write(name, name);
   }
-  EXPECT_TRUE(CodeThrownBy([&] {
-    WriteSafely({folder_ / "loop", {}}, "x", Durability::kWritten);
-  }));
+  EXPECT_TRUE(CodeOfWriting("loop", "x"));
   EXPECT_EQ(GetFile(folder_ / "sub/target"), "link-to-link");
   EXPECT_EQ(GetFile(folder_ / "sub/new"), "dangling");
   EXPECT_EQ(GetFile(folder_ / "one"), "other");
@@ -121,7 +122,6 @@ TEST_F(SafeWriterTest, WhatTheUserMayNotWriteIsRefusedAndAnothersFileStaysHis) {
   PutFile(folder_ / "another's", "old");
   fs::permissions(folder_ / "another's", fs::perms{0666});
   const struct stat before = StatusOf(folder_ / "another's");
-  const bool isRoot = ::geteuid() == 0;
   const bool possible = InProcess([this] {
     BecomeOrdinaryUser();
     fs::create_directories(folder_ / "locked");
@@ -129,80 +129,60 @@ TEST_F(SafeWriterTest, WhatTheUserMayNotWriteIsRefusedAndAnothersFileStaysHis) {
     PutFile(folder_ / "locked/file", "old");
     fs::permissions(folder_ / "read-only", fs::perms{0444});
     fs::permissions(folder_ / "locked", fs::perms{0555});
-    const auto codeFor = [this](const char* name) {
-      return CodeThrownBy([&] {
-        WriteSafely({folder_ / name, {}}, "new text", Durability::kFlushed);
-      });
-    };
-    EXPECT_EQ(codeFor("read-only"), ErrorCode::kPermissionDenied);
+    EXPECT_EQ(CodeOfWriting("read-only", "new"), ErrorCode::kPermissionDenied);
     EXPECT_EQ(GetFile(folder_ / "read-only"), "old");
-    EXPECT_EQ(codeFor("locked/new"), ErrorCode::kPermissionDenied);
-    EXPECT_EQ(codeFor("gone/new"), ErrorCode::kPathNotFound);
-    EXPECT_EQ(codeFor("locked/file"), std::nullopt);
-    EXPECT_EQ(GetFile(folder_ / "locked/file"), "new text");
+    EXPECT_EQ(CodeOfWriting("locked/new", "new"), ErrorCode::kPermissionDenied);
+    EXPECT_EQ(CodeOfWriting("gone/new", "new"), ErrorCode::kPathNotFound);
+    Write("locked/file", "new text");
     Write("another's", "new");
   });
   if (!possible) GTEST_SKIP() << "root cannot be given up";
   fs::permissions(folder_ / "locked", fs::perms::all);
   EXPECT_EQ(StatusOf(folder_ / "another's").st_uid, before.st_uid);
-  if (isRoot) {
-    EXPECT_EQ(StatusOf(folder_ / "another's").st_ino, before.st_ino);
-  }
   EXPECT_EQ(NamesIn(folder_.Path()), (Names{"another's", "locked", "read-only"}));
 }
 
-const std::string kOld(40000, 'o');
-const std::string kTooMuch(150000, 'n');
-
-// A file that can be replaced and one that has to be written in place.
-void LayDownFiles(const TemporaryFolder& folder) {
-  PutFile(folder / "single", kOld);
-  PutFile(folder / "double", kOld);
-  std::filesystem::create_hard_link(folder / "double", folder / "second name");
-}
-
-void ExpectOldFilesAfter(const TemporaryFolder& folder, ErrorCode code) {
-  for (const char* name : {"single", "double", "new"}) {
-    EXPECT_EQ(CodeThrownBy([&] {
-                WriteSafely({folder / name, {}}, kTooMuch, Durability::kWritten);
-              }),
-              code)
-        << name;
+class SafeWriterFaults : public SafeWriterTest {
+ protected:
+  // Neither a file that can be replaced nor one that has to be written in place is harmed.
+  void ExpectOldFilesAfter(ErrorCode code) {
+    const std::string old(40000, 'o');
+    const std::string tooMuch(150000, 'n');
+    PutFile(folder_ / "single", old);
+    PutFile(folder_ / "double", old);
+    fs::create_hard_link(folder_ / "double", folder_ / "second name");
+    for (const char* name : {"single", "double", "new"}) {
+      EXPECT_EQ(CodeOfWriting(name, tooMuch), code) << name;
+    }
+    EXPECT_EQ(GetFile(folder_ / "single"), old);
+    EXPECT_EQ(GetFile(folder_ / "double"), old);
+    EXPECT_EQ(NamesIn(folder_.Path()), (Names{"double", "second name", "single"}));
   }
-  EXPECT_EQ(GetFile(folder / "single"), kOld);
-  EXPECT_EQ(GetFile(folder / "double"), kOld);
-}
+};
 
-TEST(SafeWriterFaults, AFullDiskLeavesTheOldFileAndNothingElse) {
-  const TemporaryFolder folder;
-  const bool possible = InProcess([&folder] {
-    MountSmallDisk(folder.Path(), "160k");
-    LayDownFiles(folder);
-    ExpectOldFilesAfter(folder, ErrorCode::kDiskFull);
-    EXPECT_EQ(NamesIn(folder.Path()), (Names{"double", "second name", "single"}));
-    WriteSafely({folder / "double", {}}, "there is room for this", Durability::kFlushed);
-    EXPECT_EQ(GetFile(folder / "second name"), "there is room for this");
+TEST_F(SafeWriterFaults, AFullDiskLeavesTheOldFileAndNothingElse) {
+  const bool possible = InProcess([this] {
+    MountSmallDisk(folder_.Path(), "160k");
+    ExpectOldFilesAfter(ErrorCode::kDiskFull);
+    Write("double", "there is room for this");
+    EXPECT_EQ(GetFile(folder_ / "second name"), "there is room for this");
   });
   if (!possible) GTEST_SKIP() << "mounting is not allowed";
 }
 
-TEST(SafeWriterFaults, AFileSizeLimitDoesNotEndTheProgram) {
-  const TemporaryFolder folder;
-  LayDownFiles(folder);
-  InProcess([&folder] {
+TEST_F(SafeWriterFaults, AFileSizeLimitDoesNotEndTheProgram) {
+  InProcess([this] {
     const rlimit limit{100000, 100000};
     ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &limit), 0);
-    ExpectOldFilesAfter(folder, ErrorCode::kOther);
+    ExpectOldFilesAfter(ErrorCode::kOther);
     sigset_t pending;
     ::sigpending(&pending);
     EXPECT_EQ(::sigismember(&pending, SIGXFSZ), 0);
   });
-  EXPECT_EQ(NamesIn(folder.Path()), (Names{"double", "second name", "single"}));
 }
 
-TEST(SafeWriterFaults, AProgramKilledAtAnyMomentLeavesTheOldOrTheNewFile) {
-  const TemporaryFolder folder;
-  const std::string file = folder / "file";
+TEST_F(SafeWriterFaults, AProgramKilledAtAnyMomentLeavesTheOldOrTheNewFile) {
+  const std::string file = folder_ / "file";
   const std::string one(1000000, '1');
   const std::string two(700000, '2');
   PutFile(file, one);
@@ -224,7 +204,7 @@ TEST(SafeWriterFaults, AProgramKilledAtAnyMomentLeavesTheOldOrTheNewFile) {
     const std::string found = GetFile(file);
     ASSERT_TRUE(found == one || found == two) << found.size();
     seenTwo = seenTwo || found == two;
-    seenCut = seenCut || NamesIn(folder.Path()).size() > 1;
+    seenCut = seenCut || NamesIn(folder_.Path()).size() > 1;
   }
   EXPECT_TRUE(seenTwo && seenCut);
 }

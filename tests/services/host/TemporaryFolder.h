@@ -75,4 +75,15 @@ std::optional<ErrorCode> CodeThrownBy(Action action) {
   }
 }
 
+/// The text of the error that `action` throws, or nothing.
+template <class Action>
+std::string TextThrownBy(Action action) {
+  try {
+    action();
+    return {};
+  } catch (const Error& error) {
+    return error.what();
+  }
+}
+
 }  // namespace tagsmith::test

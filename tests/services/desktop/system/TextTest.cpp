@@ -4,7 +4,6 @@
 #include <QEvent>
 #include <QObject>
 #include <string>
-#include <vector>
 
 #include "services/desktop/system/QtClipboard.h"
 #include "services/desktop/system/QtEventQueue.h"
@@ -15,16 +14,14 @@ namespace {
 
 using namespace std::string_literals;
 
-const std::vector<std::string> kDelicateTexts = {
-    "\xEF\xBB\xBF\xEF\xBB\xBF<HTML>"s,  // two byte order marks
-    "a\0b\0"s,                          // NUL inside and last
-    "one\r\ntwo\nthree\rfour\r\n"s,
-    "\xC2\xA0\xE2\x80\xA8\xC3\xA9"s,   // no-break space, line separator, e with acute
-    "\xF0\x9F\x98\x80\xEF\xBF\xBE"s};  // outside the first plane; a non-character
-
 TEST(Text, ComesBackByteForByteFromQtAndFromTheClipboard) {
   QtClipboard clipboard;
-  for (const std::string& text : kDelicateTexts) {
+  for (const std::string& text : {
+           "\xEF\xBB\xBF\xEF\xBB\xBF<HTML>"s,  // two byte order marks
+           "a\0b\0one\r\ntwo\nthree\rfour\r\n"s,
+           "\xC2\xA0\xE2\x80\xA8\xC3\xA9"s,   // no-break space, line separator, e with acute
+           "\xF0\x9F\x98\x80\xEF\xBF\xBE\0"s  // outside the first plane; a non-character; NUL
+       }) {
     EXPECT_EQ(FromQString(ToQString(text)), text);
     clipboard.SetText(text);
     EXPECT_EQ(clipboard.GetText(), text);

@@ -21,14 +21,12 @@ constexpr char16_t kEnd = 0x2029;
 
 TEST(EditedText, LineEndsOutsideTheEditStay) {
   const std::string before = "a\r\nb\nc\rd\xC2\xA0\xE2\x82\xAC";
-  QString shown = ShownText(before);
+  const QString shown = ShownText(before);
   EXPECT_EQ(shown.count(QChar(kEnd)), 3);
   EXPECT_EQ(MergeEdit(before, shown), before);
-  QString broken = shown;
-  EXPECT_EQ(MergeEdit(before, broken.insert(5, QChar(kEnd))),
+  EXPECT_EQ(MergeEdit(before, QString(shown).insert(5, QChar(kEnd))),
             "a\r\nb\nc\r\r\nd\xC2\xA0\xE2\x82\xAC");
-  QString joined = shown;
-  EXPECT_EQ(MergeEdit(before, joined.remove(1, 1)), "ab\nc\rd\xC2\xA0\xE2\x82\xAC");
+  EXPECT_EQ(MergeEdit(before, QString(shown).remove(1, 1)), "ab\nc\rd\xC2\xA0\xE2\x82\xAC");
   EXPECT_EQ(MergeEdit("", QStringLiteral("new") + QChar(kEnd)), "new\r\n");
   // Surrogate pairs that share a half.
   EXPECT_EQ(MergeEdit("x\xF0\x9F\x98\x80y", QString::fromUtf8("x\xF0\x9F\x98\x81y")),

@@ -122,20 +122,16 @@ TEST_P(DialogLayout, SizesInTwipsDividersAndPicturesComeOutAsTheyAre) {
   EXPECT_TRUE(button->parentWidget()->rect().contains(button->geometry())) << "below a menu bar";
 }
 
-TEST(SmallFields, AreAsLargeAsTheirTwipsSay) {
+TEST(SmallField, IsAsLargeAsItsTwipsSay) {
   Screen screen;
   ShownForm form(screen);
-  ControlArray<TextBox> fields(form, "fields", 6);
-  std::vector<Arrangement> cells;
-  for (int i = 0; i < 6; ++i) {
-    fields(i).SetMultiLine(true);
-    fields(i).Move({0, 0, 2100, 600});
-    cells.emplace_back(fields(i));
-  }
-  form.SetArrangement(Grid(3, cells));
+  auto& field = form.Add<TextBox>("field");
+  field.SetMultiLine(true);
+  field.Move({0, 0, 2100, 600});
+  form.SetArrangement(Grid(1, {field}));
   form.ShowAndWait();
   const TwipsScale scale = TwipsScale::ForFont(QApplication::font());
-  EXPECT_EQ(form.Widget(fields(4))->size(), scale.ToPixels(2100, 600));
+  EXPECT_EQ(form.Widget(field)->size(), scale.ToPixels(2100, 600));
 }
 
 TEST_P(DialogLayout, TabGoesThroughTheLeavesInTheirOrder) {

@@ -35,19 +35,16 @@ class Probe : public ProbeForm {
   RichTextBox txtEdit{*this, "txtEdit"};
 };
 
-class Focus : public testing::Test {
+class Focus : public ShownTest<Probe> {
  protected:
   void SetUp() override {
-    form.ShowAndWait();
+    ShownTest::SetUp();
     form.txtEdit.SetFocus();
     form.TakeLog();
   }
 
   void Click(const Control& control) { QTest::mouseClick(form.Widget(control), Qt::LeftButton); }
   bool PaneHasKeyboard() { return QApplication::focusWidget() == form.Widget(form.txtEdit); }
-
-  Screen screen;
-  Probe form{screen};
 };
 
 TEST_F(Focus, MouseTabAndAccessKeyTellOnceEach) {

@@ -3,6 +3,7 @@
 #include <QPushButton>
 #include <QTabBar>
 #include <QTimer>
+#include <memory>
 
 #include "services/Buttons.h"
 #include "services/Lists.h"
@@ -36,7 +37,7 @@ class Resizable : public ProbeForm {
   StatusBar status{*this, "status"};
 };
 
-class FormSize : public testing::Test {
+class FormSize : public ShownTest<Resizable> {
  protected:
   void SetUp() override { form.ShowAndWait(); }
 
@@ -45,9 +46,6 @@ class FormSize : public testing::Test {
     form.Window().resize(size);
     QTest::qWait(20);
   }
-
-  Screen screen;
-  Resizable form{screen};
 };
 
 TEST_F(FormSize, TheModelFollowsTheWindowAndTheWindowTheModel) {
@@ -85,43 +83,34 @@ TEST_F(FormSize, ViewsAreCutAboveTheStatusBar) {
   EXPECT_EQ(bottom(form.Widget(form.status)), form.Client().height());
 }
 
-class Pages : public ProbeForm {
- public:
-  explicit Pages(Screen& screen) : ProbeForm(screen) {
-    outer.Move({0, 0, 8000, 3000});
-    inner.Move({600, 60, 7000, 2500});
-    inner.SetContainer(outer, 1);
-    first.SetContainer(inner, 0);
-    second.SetContainer(inner, 1);
-    first.Move({150, 600, 1500, 375});
-    second.Move({150, 600, 1500, 375});
-    last.Move({0, 3500, 1500, 375});
-  }
-
-  SSTab outer{*this, "outer", TabSide::kLeft, {"A", "B"}};
-  SSTab inner{*this, "inner", TabSide::kTop, {"C", "D"}};
-  TextBox first{*this, "first"};
-  TextBox second{*this, "second"};
-  TextBox last{*this, "last"};
-};
-
 TEST(TabPages, ViewsAreMadeWhenTheirPageIsFirstShown) {
   Screen screen;
-  Pages form(screen);
+  ProbeForm form(screen);
+  auto& outer = form.Add<SSTab>("outer", TabSide::kLeft, Strings{"A", "B"});
+  auto& inner = form.Add<SSTab>("inner", TabSide::kTop, Strings{"C", "D"});
+  auto& first = form.Add<TextBox>("first");
+  auto& second = form.Add<TextBox>("second");
+  auto& last = form.Add<TextBox>("last");
+  outer.Move({0, 0, 8000, 3000});
+  inner.Move({600, 60, 7000, 2500});
+  inner.SetContainer(outer, 1);
+  first.SetContainer(inner, 0);
+  second.SetContainer(inner, 1);
+  second.Move({150, 600, 1500, 375});
+  last.Move({0, 3500, 1500, 375});
   form.ShowAndWait();
-  EXPECT_EQ(form.Widget(form.inner), nullptr);
-  form.second.SetText("written before it was seen");
-  form.outer.SetTab(1);
-  ASSERT_NE(form.Widget(form.first), nullptr);
-  EXPECT_EQ(form.Widget(form.second), nullptr);
-  auto* strip = form.Widget(form.inner)->findChild<QTabBar*>();
+  EXPECT_EQ(form.Widget(inner), nullptr);
+  outer.SetTab(1);
+  ASSERT_NE(form.Widget(first), nullptr);
+  EXPECT_EQ(form.Widget(second), nullptr);
+  auto* strip = form.Widget(inner)->findChild<QTabBar*>();
   QTest::mouseClick(strip, Qt::LeftButton, {}, strip->tabRect(1).center());
-  ASSERT_TRUE(form.Widget(form.second)->isVisible());
-  EXPECT_FALSE(form.Widget(form.first)->isVisible());
+  ASSERT_TRUE(form.Widget(second)->isVisible());
+  EXPECT_FALSE(form.Widget(first)->isVisible());
   // It comes into the Tab order where the form has it.
-  form.Widget(form.second)->setFocus();
-  QTest::keyClick(form.Widget(form.second), Qt::Key_Tab);
-  EXPECT_EQ(QApplication::focusWidget(), form.Widget(form.last));
+  form.Widget(second)->setFocus();
+  QTest::keyClick(form.Widget(second), Qt::Key_Tab);
+  EXPECT_EQ(QApplication::focusWidget(), form.Widget(last));
 }
 
 /// A fixed dialog that unloads itself.
@@ -141,12 +130,9 @@ class Dialog : public ShownForm {
     SetArrangement(Column({txtName, cmdOther, grid, ButtonRow({cmdInsert})}));
     SetDefaultButton(cmdInsert);
   }
-  ~Dialog() override {
-    if (destroyed != nullptr) *destroyed = true;
-  }
 
   bool stays = false;
-  bool* destroyed = nullptr;
+  std::shared_ptr<bool> life = std::make_shared<bool>();
   TextBox txtName{*this, "txtName"};
   CommandButton cmdOther{*this, "cmdOther"};
   MSFlexGrid grid{*this, "grid", 2, 2};
@@ -181,46 +167,32 @@ TEST(ModalForms, BlockUntilTheyUnloadInsideTheirOwnHandler) {
   Screen screen;
   Resizable owner(screen);
   owner.ShowAndWait();
-  bool destroyed = false;
+  std::weak_ptr<bool> life;
   Strings log;
   QTimer::singleShot(0, [&] {
     auto* dialog = screen.platform.forms.Loaded<Dialog>();
     ASSERT_NE(dialog, nullptr);
     EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog->Window()));
     EXPECT_EQ(QApplication::activeModalWidget(), &dialog->Window());
-    dialog->destroyed = &destroyed;
+    life = dialog->life;
     QTest::mouseClick(dialog->Widget(dialog->cmdInsert), Qt::LeftButton);
-    EXPECT_FALSE(destroyed) << "it is still being shown";
+    EXPECT_FALSE(life.expired()) << "it is still being shown";
     log = dialog->log;
   });
   screen.platform.forms.Reach<Dialog>(screen).Show(Modality::kModal, &owner);
   EXPECT_EQ(log, (Strings{"insert", "unload", "after "}));
-  EXPECT_TRUE(destroyed);
-  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  EXPECT_TRUE(life.expired());
   EXPECT_EQ(screen.platform.forms.Active(), &owner);
 }
-
-/// Presses Escape in a form that is about to be shown.
-class EscapeKey : public QObject {
- public:
-  explicit EscapeKey(ShownForm& form) : form_(form) { startTimer(0); }
-
- protected:
-  void timerEvent(QTimerEvent* event) override {
-    killTimer(event->timerId());
-    QTest::keyClick(&form_.Window(), Qt::Key_Escape);
-    EXPECT_FALSE(form_.IsVisible());
-    if (form_.IsVisible()) form_.Hide();
-  }
-
- private:
-  ShownForm& form_;
-};
 
 TEST(ModalForms, CloseWithEscapeAlsoWhenTheyAreSizable) {
   Screen screen;
   Resizable form(screen);
-  const EscapeKey escape(form);
+  QTimer::singleShot(0, [&form] {
+    QTest::keyClick(&form.Window(), Qt::Key_Escape);
+    EXPECT_FALSE(form.IsVisible());
+    if (form.IsVisible()) form.Hide();
+  });
   form.Show(Modality::kModal);
   form.ShowAndWait();
   QTest::keyClick(&form.Window(), Qt::Key_Escape);
@@ -230,13 +202,12 @@ TEST(ModalForms, CloseWithEscapeAlsoWhenTheyAreSizable) {
 TEST(ModelessForms, AreDestroyedRightAfterTheHandlerThatUnloadsThem) {
   Screen screen;
   auto& form = screen.platform.forms.Reach<Dialog>(screen);
-  bool destroyed = false;
-  form.destroyed = &destroyed;
+  const std::weak_ptr<bool> life = form.life;
   form.ShowAndWait();
   const QPointer<QPushButton> button = form.Widget<QPushButton>(form.cmdInsert);
   const QPointer<QWidget> window = &form.Window();
   QTest::mouseClick(button, Qt::LeftButton);
-  EXPECT_TRUE(destroyed);
+  EXPECT_TRUE(life.expired());
   EXPECT_TRUE(button) << "deleted inside its own signal";
   EXPECT_FALSE(window->isVisible());
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

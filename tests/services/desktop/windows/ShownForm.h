@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QApplication>
 #include <QTest>
 #include <QWidget>
@@ -72,6 +74,19 @@ class ProbeForm : public ShownForm {
       top += 500;
     }
   }
+};
+
+/// Tests of a form that has come up.
+template <class T>
+class ShownTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    form.ShowAndWait();
+    form.TakeLog();
+  }
+
+  Screen screen;
+  T form{screen};
 };
 
 using Strings = std::vector<std::string>;
